@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QSqlDatabase>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+#include <stdexcept>
+
+// A failed database operation; the message carries the engine's text.
+class DbError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// One record of a table: its fields in the table's order, with a null
+// QString for a NULL field, and the rowid that orders and addresses it.
+struct TextRecord
+{
+    qint64 rowid = 0;
+    QStringList fields;
+};
+
+// A single SQLite file of named tables whose fields are all text of at most
+// 255 characters, without keys; records come back in insertion order.
+// Every write of several records is one transaction.
+class TextDatabase
+{
+public:
+    static constexpr int MaxFieldLength = 255;
+
+    // connection: a name unique within the process.
+    explicit TextDatabase(const QString& connection);
+    ~TextDatabase();
+    TextDatabase(const TextDatabase&) = delete;
+    TextDatabase& operator=(const TextDatabase&) = delete;
+
+    // Opens an existing file or, with create set, makes a new one. Throws
+    // DbError when the file cannot be opened or is not a database.
+    void open(const QString& path, bool create = false);
+    void close();
+    bool isOpen() const;
+    QString path() const { return m_path; }
+
+    void createTable(const QString& table, const QStringList& fields);
+    bool hasTable(const QString& table) const;
+    // Reads the whole table; throws DbError on any fault of file or table.
+    QVector<TextRecord> readAll(const QString& table) const;
+    int recordCount(const QString& table) const;
+    // Appends records in one transaction; all or none are stored.
+    void append(const QString& table, const QStringList& fields, const QVector<QStringList>& rows);
+    void remove(const QString& table, qint64 rowid);
+    void removeAll(const QString& table);
+
+    QSqlDatabase handle() const;
+
+private:
+    QString m_connection;
+    QString m_path;
+};
+
+// A null field read as text: the empty text for NULL, else the text.
+inline QString NullToEmpty(const QString& value) { return value.isNull() ? QString("") : value; }

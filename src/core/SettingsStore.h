@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <memory>
+#include <stdexcept>
+
+class QSettings;
+
+// A store that cannot be read or written: the start-up turns this into the
+// settings error route.
+class SettingsError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// The per-user store of text values by application, section and key.
+// One INI file per application in the user's config folder; sections and
+// keys are compared without case; the file is readable by its owner only,
+// since it holds FTP passwords.
+class SettingsStore
+{
+public:
+    // folder: where the application files live; empty means the user's
+    // config folder + "/Vorlan".
+    explicit SettingsStore(const QString& folder = QString());
+    ~SettingsStore();
+
+    QString GetSetting(const QString& app, const QString& section, const QString& key,
+                       const QString& defaultValue = QString()) const;
+    void SaveSetting(const QString& app, const QString& section, const QString& key,
+                     const QString& value);
+    void DeleteSetting(const QString& app);
+
+    QString filePath(const QString& app) const;
+    QString folder() const { return m_folder; }
+
+private:
+    QSettings& open(const QString& app) const;
+    void secure(const QString& app) const;
+
+    QString m_folder;
+    mutable QHash<QString, std::shared_ptr<QSettings>> m_files;
+};

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "addressdata/CatalogueData.h"
+#include "addressdata/SavedLink.h"
+#include "addressdata/TableNames.h"
+
+#include <QString>
+#include <QVector>
+
+// The process-wide state that the windows share (the g-prefixed variables).
+// One object, made by the program's entry and passed to the windows; tests
+// make their own and reset it.
+struct SharedState
+{
+    // Start-up
+    QString gstrAppName;
+    bool gblnCommandUrl = false;
+    bool gblnHandedOff = false;
+    bool gblnOpenCommandUrl = false;
+    QString gstrDefaultNote;
+    bool gblnUseSiteTitles = false;
+    QString gstrDataPath;
+    QString gstrGeoData;
+    QString gstrGeoBckUp;
+    bool gblnStartUpShown = false;
+
+    // Region
+    bool gblnJapan = false;
+    QString gstrSiteLabel;
+
+    // Loaded windows and on-top state
+    bool gblnWBOneLoaded = false;
+    bool gblnWBTwoLoaded = false;
+    bool gblnCacheLoaded = false;
+    bool gblnTreeShown = false;
+    bool gblnMainOnTop = false;
+    bool gblnWBOneOnTop = false;
+    bool gblnLinksPanelOpen = false;
+    bool gblnNoteOpen = false;
+
+    // Options as read from the settings
+    bool gblnOnTopSynch = false;
+    bool gblnJapanRNS = false;
+    bool gblnUsaRNS = false;
+    bool gblnEliminatePopUps = false;
+    bool gblnClosePopUps = false;
+    bool gblnShowNextButton = false;
+    bool gblnAssignRTC = false;
+    bool gblnOSLOC = false;
+    bool gblnFullPages = false;
+    qint32 glngAutoLimit = 0;
+    bool gblnAutoLimitOn = false;
+    qint16 gintGlobalTimer = 10000;
+
+    // Address data
+    TableNameArray gastrTables;
+    CatalogueData catalogue;
+    QVector<SavedLink> gastrSavedLinks;
+    int gintSavedLinkTop = 0;
+
+    void reset() { *this = SharedState(); }
+};
