@@ -1,0 +1,164 @@
+#include "ControlBinder.h"
+
+#include "Controls.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSlider>
+
+namespace {
+
+void showCommon(const Control& model, QWidget* widget)
+{
+    widget->setToolTip(model.toolTip());
+    widget->setEnabled(model.isEnabled());
+    // A widget hidden by the rules stays hidden; one shown follows its window.
+    if (!model.isVisible())
+        widget->setVisible(false);
+    else if (widget->isHidden() && widget->parentWidget())
+        widget->setVisible(true);
+}
+
+// Turns a key press on a widget into the control's Click, as the slider's
+// key handling asks.
+class KeyClick : public QObject
+{
+public:
+    KeyClick(Control& model, QObject* parent) : QObject(parent), m_model(model) {}
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress)
+            m_model.click();
+        return false;
+    }
+
+private:
+    Control& m_model;
+};
+
+} // namespace
+
+namespace ControlBinder {
+
+void bind(Control& model, QAbstractButton* button)
+{
+    button->setObjectName(model.name());
+    auto show = [&model, button] {
+        button->setText(model.text());
+        showCommon(model, button);
+    };
+    show();
+    QObject::connect(&model, &Control::viewChanged, button, show);
+    QObject::connect(button, &QAbstractButton::clicked, &model, [&model] { model.click(); });
+}
+
+void bind(Control& model, QAction* action)
+{
+    action->setObjectName(model.name());
+    action->setCheckable(true);
+    auto show = [&model, action] {
+        action->setText(model.text());
+        action->setChecked(model.isChecked());
+        action->setEnabled(model.isEnabled());
+        action->setVisible(model.isVisible());
+    };
+    show();
+    QObject::connect(&model, &Control::viewChanged, action, show);
+    QObject::connect(action, &QAction::triggered, &model, [&model, show] {
+        model.click();
+        show(); // the rules decide the check, not the toggle of the action
+    });
+}
+
+void bind(ListControl& model, QComboBox* combo)
+{
+    combo->setObjectName(model.name());
+    combo->setEditable(false);
+    auto showItems = [&model, combo] {
+        const QSignalBlocker block(combo);
+        combo->clear();
+        combo->addItems(model.items());
+    };
+    auto show = [&model, combo] {
+        const QSignalBlocker block(combo);
+        combo->setCurrentIndex(model.listIndex());
+        // A text that is no entry of the list shows as the box's placeholder.
+        combo->setPlaceholderText(model.listIndex() < 0 ? model.text() : QString());
+        showCommon(model, combo);
+    };
+    showItems();
+    show();
+    QObject::connect(&model, &ListControl::itemsChanged, combo, [showItems, show] {
+        showItems();
+        show();
+    });
+    QObject::connect(&model, &Control::viewChanged, combo, show);
+    QObject::connect(combo, qOverload<int>(&QComboBox::activated), &model,
+                     [&model](int index) { model.userSelect(index); });
+}
+
+void bind(SliderControl& model, QSlider* slider)
+{
+    slider->setObjectName(model.name());
+    {
+        const QSignalBlocker block(slider);
+        slider->setRange(model.minimum(), model.maximum());
+    }
+    auto show = [&model, slider] {
+        const QSignalBlocker block(slider);
+        slider->setValue(model.value());
+        showCommon(model, slider);
+    };
+    show();
+    QObject::connect(&model, &Control::viewChanged, slider, show);
+    QObject::connect(slider, &QSlider::valueChanged, &model, [&model](int value) {
+        try {
+            model.setValue(value);
+        } catch (...) {
+        }
+    });
+    QObject::connect(slider, &QSlider::sliderPressed, &model, [&model] { model.click(); });
+    slider->installEventFilter(new KeyClick(model, slider));
+}
+
+void bind(Control& model, QLineEdit* edit)
+{
+    edit->setObjectName(model.name());
+    auto show = [&model, edit] {
+        if (edit->text() != model.text()) {
+            const QSignalBlocker block(edit);
+            edit->setText(model.text());
+            edit->setCursorPosition(0);
+        }
+        showCommon(model, edit);
+    };
+    show();
+    QObject::connect(&model, &Control::viewChanged, edit, show);
+    QObject::connect(edit, &QLineEdit::textEdited, &model,
+                     [&model](const QString& text) { model.setText(text); });
+}
+
+void bind(Control& model, QLabel* label)
+{
+    label->setObjectName(model.name());
+    auto show = [&model, label] {
+        label->setText(model.text());
+        showCommon(model, label);
+    };
+    show();
+    QObject::connect(&model, &Control::viewChanged, label, show);
+}
+
+void bindCaption(Control& model, QWidget* window)
+{
+    auto show = [&model, window] { window->setWindowTitle(model.text()); };
+    show();
+    QObject::connect(&model, &Control::viewChanged, window, show);
+}
+
+} // namespace ControlBinder

@@ -1,0 +1,26 @@
+#pragma once
+
+class Control;
+class ListControl;
+class SliderControl;
+class QAbstractButton;
+class QAction;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QSlider;
+class QWidget;
+
+// Binds widgets to the control models of the rules: the widget shows the
+// model's state, and the user's actions on the widget go to the model as
+// its Click and Change events. Widgets take the model's name as objectName.
+namespace ControlBinder {
+void bind(Control& model, QAbstractButton* button);
+void bind(Control& model, QAction* action);
+void bind(ListControl& model, QComboBox* combo);
+void bind(SliderControl& model, QSlider* slider);
+void bind(Control& model, QLineEdit* edit);
+void bind(Control& model, QLabel* label);
+// The window's caption follows the model's text.
+void bindCaption(Control& model, QWidget* window);
+} // namespace ControlBinder

@@ -1,0 +1,187 @@
+#include "EntryProcedure.h"
+
+#include "AppContext.h"
+#include "HelpPages.h"
+#include "SettingsKeys.h"
+#include "StartupUi.h"
+#include "Version.h"
+#include "addressdata/MainDatabase.h"
+#include "addressdata/TextDatabase.h"
+#include "navigator/Navigator.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <exception>
+
+EntryProcedure::EntryProcedure(AppContext& ctx, StartupUi& ui) : m_ctx(ctx), m_ui(ui) {}
+
+bool EntryProcedure::LooksLikeUrl(const QString& lowered)
+{
+    if (lowered.size() < 7)
+        return false;
+    const QString scheme = lowered.left(7);
+    return scheme == QLatin1String("http://") || scheme == QLatin1String("mailto:") ||
+           lowered.right(3) == QLatin1String("url");
+}
+
+QStringList EntryProcedure::CorruptLines()
+{
+    return {QStringLiteral("Warning!!!\r"),        QStringLiteral("The database is corrupt"),
+            QStringLiteral("I'm about to Delete it"), QStringLiteral("& recreate it! All saved"),
+            QStringLiteral("data will be lost!"),   QStringLiteral("PROCEED?")};
+}
+
+bool EntryProcedure::run(const QString& commandLine)
+{
+    SharedState& st = m_ctx.state;
+    st.gstrAppName = Version::AppName();
+    try {
+        const QString lowered = commandLine.toLower();
+        if (lowered == QLatin1String("/?")) {
+            m_ctx.prompts.openExternally(
+                HelpPages::extractTo(QDir::tempPath() + QStringLiteral("/vorlan-help")));
+            return false;
+        }
+        st.gblnCommandUrl = LooksLikeUrl(lowered);
+        const bool prevInstance = m_ui.isPrevInstance();
+        if (!prevInstance && st.gblnCommandUrl) {
+            st.gblnOpenCommandUrl = true;
+        } else if (prevInstance && st.gblnCommandUrl) {
+            // The program never talks to the first instance: the address
+            // goes to the desktop, and this one loads and leaves.
+            m_ctx.prompts.openExternally(lowered);
+            st.gblnHandedOff = true;
+        } else if (prevInstance) {
+            return false;
+        }
+        BuildTableNames(st.gastrTables);
+        firstUseSettings();
+        dataFolder();
+        clearAttributes();
+        const bool backupExists = QFileInfo(st.gstrGeoBckUp).isFile();
+        if (QFileInfo(st.gstrGeoData).isFile()) {
+            if (!verifyOrRecover(backupExists))
+                return false;
+        } else {
+            createMissing(backupExists);
+        }
+        loadData(lowered);
+        return !st.gblnHandedOff;
+    } catch (const std::exception&) {
+        settingsErrorRoute();
+        return false;
+    }
+}
+
+void EntryProcedure::firstUseSettings()
+{
+    SharedState& st = m_ctx.state;
+    st.gstrDefaultNote = m_ctx.GetSetting(Sect::AdvOpt, Key::DefaultSN, "This is a CooL Site!");
+    const QString prompt = m_ctx.GetSetting(Sect::WebBrwsrTwo, Key::PromptForNewFile, "1");
+    const QString initialised = m_ctx.GetSetting(Sect::Startup, Key::AdvOptInit, "");
+    st.gblnUseSiteTitles =
+        m_ctx.GetSetting(Sect::WebBrwsrTwo, Key::UseSiteTitles, "0") == QLatin1String("1");
+    if (initialised.isEmpty()) {
+        m_ctx.SaveSetting(Sect::AdvOpt, Key::DefaultSN, st.gstrDefaultNote);
+        m_ctx.SaveSetting(Sect::WebBrwsrTwo, Key::PromptForNewFile, prompt);
+        m_ctx.SaveSetting(Sect::Startup, Key::AdvOptInit, QStringLiteral("1"));
+    }
+}
+
+void EntryProcedure::dataFolder()
+{
+    SharedState& st = m_ctx.state;
+    st.gstrDataPath = m_ctx.GetSetting(Sect::Startup, Key::Path, "");
+    if (st.gstrDataPath.isEmpty()) {
+        st.gstrDataPath = m_ctx.appPath;
+        if (!st.gstrDataPath.endsWith(QLatin1Char('/')))
+            st.gstrDataPath += QLatin1Char('/');
+        m_ctx.SaveSetting(Sect::Startup, Key::Path, st.gstrDataPath);
+    }
+    QDir().mkpath(st.gstrDataPath);
+    st.gstrGeoData = st.gstrDataPath + QStringLiteral("GeoData.db");
+    st.gstrGeoBckUp = st.gstrDataPath + QStringLiteral("GeoBckUp.db");
+}
+
+// A read-only file left by a former copy never blocks the start.
+void EntryProcedure::clearAttributes()
+{
+    for (const QString& path : {m_ctx.state.gstrGeoBckUp, m_ctx.state.gstrGeoData}) {
+        if (QFileInfo::exists(path))
+            QFile::setPermissions(path, QFile::permissions(path) | QFile::ReadOwner |
+                                            QFile::WriteOwner | QFile::ReadUser |
+                                            QFile::WriteUser);
+    }
+}
+
+void EntryProcedure::copyOver(const QString& from, const QString& to)
+{
+    QFile::remove(to);
+    if (!QFile::copy(from, to))
+        throw DbError("Cannot copy " + from.toStdString() + " to " + to.toStdString());
+}
+
+// The working file is checked table by table. A bad one is replaced by the
+// backup, silently, and checked once more; if it is still bad the user is
+// asked before it is made anew. A clean file refreshes the backup.
+bool EntryProcedure::verifyOrRecover(bool backupExists)
+{
+    SharedState& st = m_ctx.state;
+    bool bad = !VerifyMainDatabase(st.gstrGeoData, st.gastrTables);
+    if (bad && backupExists) {
+        QFile::remove(st.gstrGeoData);
+        if (QFile::copy(st.gstrGeoBckUp, st.gstrGeoData))
+            bad = !VerifyMainDatabase(st.gstrGeoData, st.gastrTables);
+    }
+    if (bad) {
+        if (!ShowLines(m_ctx.prompts, CorruptLines(), QStringLiteral("Corrupt Database!"), true))
+            return false;
+        QFile::remove(st.gstrGeoData);
+        CreateMainDatabase(st);
+        copyOver(st.gstrGeoData, st.gstrGeoBckUp);
+        return true;
+    }
+    copyOver(st.gstrGeoData, st.gstrGeoBckUp);
+    return true;
+}
+
+void EntryProcedure::createMissing(bool backupExists)
+{
+    SharedState& st = m_ctx.state;
+    m_ui.showSplash(QStringLiteral("    Creating Database..."));
+    if (backupExists) {
+        copyOver(st.gstrGeoBckUp, st.gstrGeoData);
+    } else {
+        CreateMainDatabase(st);
+        copyOver(st.gstrGeoData, st.gstrGeoBckUp);
+    }
+    m_ui.unloadSplash();
+}
+
+void EntryProcedure::loadData(const QString& lowered)
+{
+    SharedState& st = m_ctx.state;
+    m_ui.showSplash(QStringLiteral("    Loading Data..."));
+    m_ctx.gdbMain.open(st.gstrGeoData);
+    Navigator& navigator = m_ui.loadMainWindow();
+    navigator.LoadCatalogue();
+    m_ui.unloadSplash();
+    if (st.gblnHandedOff) {
+        navigator.Unload(); // saves this instance's settings too
+        return;
+    }
+    if (st.gblnOpenCommandUrl)
+        navigator.NavigateSomeWhereElse(lowered);
+    m_ui.showMainWindow();
+}
+
+void EntryProcedure::settingsErrorRoute()
+{
+    try {
+        m_ctx.settings.DeleteSetting(m_ctx.state.gstrAppName);
+    } catch (const std::exception&) {
+    }
+    m_ctx.prompts.msgBox(QStringLiteral("A settings error was encountered!\rYou will need to restart Vorlan!"));
+    m_ctx.gdbMain.close();
+}

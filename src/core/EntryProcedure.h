@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+struct AppContext;
+class StartupUi;
+
+// The program's entry: the command line, a second instance, first-use
+// settings, the data folder, verifying, restoring or creating the main
+// database, loading the catalogue, and only then the main window.
+class EntryProcedure
+{
+public:
+    EntryProcedure(AppContext& ctx, StartupUi& ui);
+
+    // True when the main window is shown and the window events take over;
+    // false when the process is to end.
+    bool run(const QString& commandLine);
+
+    // Whether the (lowered) command line counts as a URL.
+    static bool LooksLikeUrl(const QString& lowered);
+
+    static QStringList CorruptLines();
+
+private:
+    void firstUseSettings();
+    void dataFolder();
+    void clearAttributes();
+    bool verifyOrRecover(bool backupExists);
+    void createMissing(bool backupExists);
+    void loadData(const QString& lowered);
+    void settingsErrorRoute();
+    void copyOver(const QString& from, const QString& to);
+
+    AppContext& m_ctx;
+    StartupUi& m_ui;
+};

@@ -1,0 +1,92 @@
+#include "WidgetPrompts.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QUrl>
+
+namespace {
+QString displayText(QString text)
+{
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    while (text.endsWith(QLatin1Char('\n')))
+        text.chop(1);
+    return text;
+}
+
+QString windowTitle(const QString& title)
+{
+    return title.isEmpty() ? QStringLiteral("Vorlan") : title;
+}
+} // namespace
+
+QWidget* WidgetPrompts::parent() { return QApplication::activeWindow(); }
+
+int WidgetPrompts::msgBox(const QString& text, int style, const QString& title)
+{
+    QMessageBox box(parent());
+    box.setWindowTitle(windowTitle(title));
+    box.setText(displayText(text));
+    switch (style & 0x70) {
+    case Critical: box.setIcon(QMessageBox::Critical); break;
+    case Question: box.setIcon(QMessageBox::Question); break;
+    case Exclamation: box.setIcon(QMessageBox::Warning); break;
+    case Information: box.setIcon(QMessageBox::Information); break;
+    default: break;
+    }
+    switch (style & 7) {
+    case OkCancel: box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel); break;
+    case YesNoCancel:
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        break;
+    case YesNo: box.setStandardButtons(QMessageBox::Yes | QMessageBox::No); break;
+    default: box.setStandardButtons(QMessageBox::Ok); break;
+    }
+    switch (box.exec()) {
+    case QMessageBox::Yes: return Yes;
+    case QMessageBox::No: return No;
+    case QMessageBox::Cancel: return Cancel;
+    default: return Ok;
+    }
+}
+
+QString WidgetPrompts::inputBox(const QString& prompt, const QString& title,
+                                const QString& defaultText)
+{
+    bool ok = false;
+    const QString text = QInputDialog::getText(parent(), windowTitle(title), displayText(prompt),
+                                               QLineEdit::Normal, defaultText, &ok);
+    return ok ? text : QString();
+}
+
+QString WidgetPrompts::openFileName(const QString& title, const QString& startFolder,
+                                    const QStringList& filters, int selectedFilter)
+{
+    QString selected = filters.value(selectedFilter);
+    return QFileDialog::getOpenFileName(parent(), windowTitle(title), startFolder,
+                                        filters.join(QStringLiteral(";;")), &selected);
+}
+
+QString WidgetPrompts::saveFileName(const QString& title, const QString& startPath,
+                                    const QStringList& filters, int selectedFilter)
+{
+    QString selected = filters.value(selectedFilter);
+    return QFileDialog::getSaveFileName(parent(), windowTitle(title), startPath,
+                                        filters.join(QStringLiteral(";;")), &selected);
+}
+
+QString WidgetPrompts::folderName(const QString& title, const QString& startFolder)
+{
+    return QFileDialog::getExistingDirectory(parent(), windowTitle(title), startFolder);
+}
+
+void WidgetPrompts::openExternally(const QString& urlOrPath)
+{
+    const QUrl url = QFileInfo::exists(urlOrPath) ? QUrl::fromLocalFile(urlOrPath)
+                                                  : QUrl::fromUserInput(urlOrPath);
+    QDesktopServices::openUrl(url);
+}

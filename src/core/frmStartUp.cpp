@@ -1,0 +1,66 @@
+#include "frmStartUp.h"
+
+#include "SharedState.h"
+#include "Version.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QVBoxLayout>
+
+frmStartUp::frmStartUp(SharedState& state)
+    : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint), m_state(state)
+{
+    setObjectName(QStringLiteral("frmStartUp"));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setAutoFillBackground(true);
+    QPalette pal = palette();
+    pal.setColor(QPalette::Window, QColor(0, 0, 96));
+    pal.setColor(QPalette::WindowText, QColor(255, 255, 224));
+    setPalette(pal);
+
+    QFont times(QStringLiteral("Times New Roman"));
+    times.setPointSize(12);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(24, 16, 24, 16);
+    layout->setSpacing(2);
+    auto make = [this, layout, &times](const char* name, const QString& text, int points) {
+        auto* label = new QLabel(text, this);
+        label->setObjectName(QLatin1String(name));
+        QFont f = times;
+        f.setPointSize(points);
+        label->setFont(f);
+        label->setAlignment(Qt::AlignHCenter);
+        layout->addWidget(label);
+        return label;
+    };
+    Label2 = make("Label2", QStringLiteral("Vorlan"), 26);
+    Label1 = make("Label1", QStringLiteral("A GeoCities navigator"), 11);
+    Label12 = make("Label12", QStringLiteral("Please wait"), 9);
+    // The texts end in carriage returns, as the program writes them.
+    const QString version = QStringLiteral("   Vorlan Version %1.%2%3\r\r")
+                                .arg(Version::Major)
+                                .arg(Version::Minor)
+                                .arg(QString::number(Version::Revision).left(1));
+    const QStringList texts = {version, QStringLiteral("\rNeighborhoods and Suburbs of both sites"),
+                               QStringLiteral("\rsaved links, AutoNav and RandNav"), QString()};
+    for (int i = 0; i < 4; ++i) {
+        lblStartUp[i] = make(qPrintable(QStringLiteral("lblStartUp[%1]").arg(i)),
+                             texts[i].trimmed(), i == 3 ? 12 : 11);
+        lblStartUp[i]->setProperty("vbText", texts[i]);
+    }
+    setFixedSize(sizeHint().expandedTo(QSize(380, 220)));
+
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen) {
+        const QRect area = screen->geometry();
+        move(area.left() + (area.width() - width()) / 2, area.top() + (area.height() - height()) / 2);
+    }
+}
+
+frmStartUp::~frmStartUp() { m_state.gblnStartUpShown = false; }
+
+void frmStartUp::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    m_state.gblnStartUpShown = true;
+}

@@ -1,0 +1,413 @@
+#include "Navigator.h"
+
+#include "NavigatorHost.h"
+#include "addressdata/CatalogueLoader.h"
+#include "core/AppContext.h"
+#include "core/Endpoints.h"
+#include "core/HelpPages.h"
+#include "core/SettingsKeys.h"
+#include "core/VbRuntime.h"
+
+#include <QFileInfo>
+#include <exception>
+
+namespace {
+const char* const NoConnection = "No internet connection!";
+// The part of the main window that the clamp keeps on the screen.
+constexpr int VisibleWidthTwips = 4260;
+constexpr int VisibleHeightTwips = 2850;
+
+QString flagText(bool flag) { return flag ? QStringLiteral("1") : QStringLiteral("0"); }
+} // namespace
+
+Navigator::Navigator(AppContext& ctx, NavigatorHost& host)
+    : m_ctx(ctx), m_host(host), m_composer(ctx.state, m_c, *this), m_wander(ctx, *this)
+{
+    connectEvents();
+}
+
+void Navigator::connectEvents()
+{
+    connect(&m_c.cmdOpenSite, &Control::clicked, this, &Navigator::OpenSite);
+    connect(&m_c.cmdQuite, &Control::clicked, this, &Navigator::Unload);
+    connect(&m_c.picNeighborhood, &Control::clicked, this, &Navigator::PictureClick);
+    connect(&m_c.mnuJapan, &Control::clicked, this, &Navigator::JapanClick);
+    connect(&m_c.mnuOnTop, &Control::clicked, this, &Navigator::OnTopClick);
+    connect(&m_c.mnuGeoTree, &Control::clicked, this, &Navigator::GeoTreeClick);
+    connect(&m_c.mnuOptions, &Control::clicked, this, &Navigator::OptionsClick);
+    connect(&m_c.mnuAutoNav, &Control::clicked, this, &Navigator::AutoNavClick);
+    connect(&m_c.mnuRandNav, &Control::clicked, this, &Navigator::RandNavClick);
+}
+
+QPoint Navigator::ClampMainPlace(int left, int top, const QRect& screen)
+{
+    left = std::max(left, 0);
+    top = std::max(top, 0);
+    top = std::min(top, screen.height() - VisibleHeightTwips);
+    left = std::min(left, screen.width() - VisibleWidthTwips);
+    return {left, top};
+}
+
+void Navigator::Load()
+{
+    const QRect screen = m_host.screenTwips();
+    const QRect window = m_host.windowTwips();
+    const int defaultTop = (screen.height() - window.height()) / 2;
+    const int defaultLeft = (screen.width() - window.width()) / 2;
+    const int top =
+        Vb::CLng(m_ctx.GetSetting(Sect::VorlanMain, Key::MF_T, QString::number(defaultTop)));
+    const int left =
+        Vb::CLng(m_ctx.GetSetting(Sect::VorlanMain, Key::MF_L, QString::number(defaultLeft)));
+    const QPoint place = ClampMainPlace(left, top, screen);
+    m_host.moveWindowTwips(place.x(), place.y());
+    m_composer.FillDigitLists();
+    m_composer.ComposeAddress();
+    m_composer.ControlsReady = true;
+}
+
+void Navigator::LoadCatalogue()
+{
+    m_c.cmbNeighborhood.clear();
+    ReadCatalogue(m_ctx, m_ctx.gdbMain);
+    const CatalogueData& cat = m_ctx.state.catalogue;
+    for (int i = 1; i <= cat.gintNeighborhoodCount; ++i)
+        m_c.cmbNeighborhood.addItem(cat.name(i));
+    emit savedLinksReload(m_ctx.state.gblnJapan ? Tbl::JapanSaved : Tbl::UsaSaved);
+    LoadMainSettings();
+}
+
+void Navigator::SwitchRegionData(int code)
+{
+    if (code == 2)
+        LoadCatalogue();
+}
+
+bool Navigator::readFlag(const char* section, const char* key, const char* defaultValue) const
+{
+    return m_ctx.GetSetting(section, key, defaultValue) == QLatin1String("1");
+}
+
+// A flag is only ever raised here: one stored as "0" keeps what it had.
+void Navigator::raise(bool& flag, const char* section, const char* key, const char* defaultValue)
+{
+    if (readFlag(section, key, defaultValue))
+        flag = true;
+}
+
+void Navigator::LoadMainSettings()
+{
+    SharedState& st = m_ctx.state;
+    LeaveSavedView();
+    raise(st.gblnOnTopSynch, Sect::AdvOpt, Key::OnTopSynch, "0");
+    raise(st.gblnJapanRNS, Sect::AdvOpt, Key::JapanRNS, "0");
+    raise(st.gblnUsaRNS, Sect::AdvOpt, Key::UsaRNS, "0");
+    raise(st.gblnEliminatePopUps, Sect::Startup, Key::EliminatePopUps, "0");
+    raise(st.gblnClosePopUps, Sect::Startup, Key::PopUps, "1");
+    raise(st.gblnShowNextButton, Sect::Startup, Key::SNBOWB, "1");
+    raise(st.gblnAssignRTC, Sect::Startup, Key::AssignRTC, "1");
+    raise(st.gblnOSLOC, Sect::Startup, Key::OSLOC, "0");
+    raise(st.gblnFullPages, Sect::Startup, Key::FullPages, "1");
+    st.glngAutoLimit = Vb::CLng(m_ctx.GetSetting(Sect::Startup, Key::AutoLimit, "0"));
+
+    const QString firstName = st.catalogue.gastrCatalogue[0][0];
+    QString neighborhood, suburb, house;
+    if (st.gblnJapan) {
+        neighborhood = m_ctx.GetSetting(Sect::Startup, Key::JapanNeighborhood, firstName);
+        suburb = m_ctx.GetSetting(Sect::Startup, Key::JapanSuburb, "");
+        house = m_ctx.GetSetting(Sect::Startup, Key::JapanHouseNumber, "");
+        st.gstrSiteLabel = QLatin1String(Endpoint::JapanSiteLabel) + QLatin1Char('/');
+    } else {
+        neighborhood = m_ctx.GetSetting(Sect::Startup, Key::Neigh, firstName);
+        suburb = m_ctx.GetSetting(Sect::Startup, Key::Subrb, "");
+        house = m_ctx.GetSetting(Sect::Startup, Key::HouseNumber, "");
+        st.gstrSiteLabel = QLatin1String(Endpoint::UsaSiteLabel) + QLatin1Char('/');
+    }
+    if (house.isEmpty())
+        house = m_ctx.GetSetting(Sect::Startup, Key::HNPS, "1000");
+    m_composer.HouseNumber = house;
+
+    // Read into 16 bits: a stored wait above 32767 fails here.
+    st.gintGlobalTimer = Vb::CInt(m_ctx.GetSetting(Sect::Startup, Key::GlobalTimer, "10000"));
+    m_wander.setInterval(st.gintGlobalTimer);
+
+    m_c.cmbNeighborhood.setText(neighborhood);
+    m_composer.FillSuburbs();
+    m_c.cmbSuburb.setText(suburb);
+}
+
+void Navigator::SaveMainSettings()
+{
+    SharedState& st = m_ctx.state;
+    m_ctx.SaveSetting(Sect::AdvOpt, Key::OnTopSynch,
+                      st.gblnOnTopSynch ? QStringLiteral("1") : QString(""));
+    m_ctx.SaveSetting(Sect::AdvOpt, Key::JapanRNS, flagText(st.gblnJapanRNS));
+    m_ctx.SaveSetting(Sect::AdvOpt, Key::UsaRNS, flagText(st.gblnUsaRNS));
+    m_ctx.SaveSetting(Sect::Startup, Key::EliminatePopUps, flagText(st.gblnEliminatePopUps));
+    m_ctx.SaveSetting(Sect::Startup, Key::PopUps, flagText(st.gblnClosePopUps));
+    m_ctx.SaveSetting(Sect::Startup, Key::SNBOWB, flagText(st.gblnShowNextButton));
+    m_ctx.SaveSetting(Sect::Startup, Key::AssignRTC, flagText(st.gblnAssignRTC));
+    m_ctx.SaveSetting(Sect::Startup, Key::OSLOC, flagText(st.gblnOSLOC));
+    m_ctx.SaveSetting(Sect::Startup, Key::FullPages, flagText(st.gblnFullPages));
+    m_ctx.SaveSetting(Sect::Startup, Key::GlobalTimer, QString::number(st.gintGlobalTimer));
+
+    const QRect window = m_host.windowTwips();
+    m_ctx.SaveSetting(Sect::VorlanMain, Key::MF_T, QString::number(window.top()));
+    m_ctx.SaveSetting(Sect::VorlanMain, Key::MF_L, QString::number(window.left()));
+
+    m_ctx.SaveSetting(Sect::Startup, st.gblnJapan ? Key::JapanNeighborhood : Key::Neigh,
+                      m_c.cmbNeighborhood.text());
+    m_ctx.SaveSetting(Sect::Startup, st.gblnJapan ? Key::JapanSuburb : Key::Subrb,
+                      m_c.cmbSuburb.text());
+    const double house = Vb::Val(m_composer.HouseNumber);
+    if (house <= 999 || house >= 10000)
+        m_composer.HouseNumber = QStringLiteral("1000");
+    m_ctx.SaveSetting(Sect::Startup, Key::HNPS, m_composer.HouseNumber);
+}
+
+void Navigator::OpenSite()
+{
+    if (m_c.txtFullAddress.text().isEmpty())
+        return;
+    if (m_ctx.state.gblnWBOneLoaded)
+        m_host.browserStop();
+    else
+        m_host.ShowBrowserOne();
+    frmGeoCitiesCalls(10);
+    NavigateSomeWhereElse(m_c.txtFullAddress.text());
+}
+
+void Navigator::NavigateSomeWhereElse(const QString& url)
+{
+    // A local file is opened as it stands; every other text that does not
+    // begin with "http://www." gets that prefix, other URL forms included.
+    const bool localFile = !url.isEmpty() && QFileInfo(url).isFile();
+    QString target = url;
+    if (url.left(11).toLower() != QLatin1String("http://www.") && !localFile)
+        target = QStringLiteral("http://www.") + url;
+    try {
+        m_host.ShowBrowserOne();
+    } catch (const std::exception&) {
+    }
+    try {
+        m_host.browserNavigate(target);
+    } catch (const std::exception&) {
+    }
+}
+
+void Navigator::GoBack()
+{
+    try {
+        StopAutoModes();
+        m_host.browserStop();
+        m_host.browserGoBack();
+    } catch (const std::exception&) {
+    }
+}
+
+void Navigator::LeaveSavedView()
+{
+    SavedViewActive = false;
+    m_c.cmbSavedLinks.setText(QString(""));
+    m_c.cmdSavedLinks0.setText(QStringLiteral("Save"));
+    m_c.cmdSavedLinks1.setVisible(false);
+}
+
+void Navigator::StopAutoModes()
+{
+    if (m_c.mnuRandNav.isChecked())
+        RandNavClick();
+    if (m_c.mnuAutoNav.isChecked())
+        AutoNavClick();
+}
+
+bool Navigator::RandNavRunning() const { return m_c.mnuRandNav.isChecked(); }
+
+void Navigator::JapanClick()
+{
+    SharedState& st = m_ctx.state;
+    const QString neighborhood = m_c.cmbNeighborhood.text();
+    const QString suburb = m_c.cmbSuburb.text();
+    const QString house =
+        m_c.cmbHouseNumberPrefix.text().trimmed() + m_c.cmbHouseNumberSuffix.text().trimmed();
+    if (st.gblnTreeShown)
+        GeoTreeClick(); // the tree shows one site only
+    if (m_c.mnuJapan.isChecked()) {
+        m_ctx.SaveSetting(Sect::Startup, Key::JapanNeighborhood, neighborhood);
+        m_ctx.SaveSetting(Sect::Startup, Key::JapanSuburb, suburb);
+        m_ctx.SaveSetting(Sect::Startup, Key::JapanHouseNumber, house);
+        m_c.form.setText(QStringLiteral("Navigate GeoCities USA"));
+        st.gblnJapan = false;
+        m_c.mnuJapan.setChecked(false);
+    } else {
+        m_ctx.SaveSetting(Sect::Startup, Key::Neigh, neighborhood);
+        m_ctx.SaveSetting(Sect::Startup, Key::Subrb, suburb);
+        m_ctx.SaveSetting(Sect::Startup, Key::HouseNumber, house);
+        m_c.form.setText(QStringLiteral("Navigate GeoCities Japan"));
+        st.gblnJapan = true;
+        m_c.mnuJapan.setChecked(true);
+    }
+    SwitchRegionData(2);
+}
+
+void Navigator::OnTopClick()
+{
+    SharedState& st = m_ctx.state;
+    const bool on = !m_c.mnuOnTop.isChecked();
+    m_c.mnuOnTop.setChecked(on);
+    m_host.setWindowOnTop(on);
+    st.gblnMainOnTop = on;
+    if (st.gblnOnTopSynch && st.gblnWBOneLoaded && st.gblnWBOneOnTop != on)
+        m_host.toggleBrowserOneOnTop();
+}
+
+void Navigator::releaseOnTop()
+{
+    if (m_ctx.state.gblnMainOnTop)
+        OnTopClick();
+    if (m_ctx.state.gblnWBOneOnTop)
+        m_host.toggleBrowserOneOnTop();
+}
+
+void Navigator::GeoTreeClick()
+{
+    SharedState& st = m_ctx.state;
+    if (m_c.mnuGeoTree.isChecked()) {
+        m_host.unloadWindow(ProgramWindow::GeoTree);
+        m_c.mnuGeoTree.setChecked(false);
+        st.gblnTreeShown = false;
+        return;
+    }
+    releaseOnTop();
+    if (m_host.showWindow(ProgramWindow::GeoTree))
+        m_c.mnuGeoTree.setChecked(true);
+}
+
+void Navigator::OptionsClick()
+{
+    if (m_c.mnuOptions.isChecked())
+        return;
+    releaseOnTop();
+    m_c.mnuOptions.setChecked(true);
+    m_c.mnuOptions.setEnabled(false);
+    m_host.showWindow(ProgramWindow::Options);
+    m_c.mnuOptions.setEnabled(true);
+}
+
+void Navigator::ShowProgramWindow(ProgramWindow window)
+{
+    releaseOnTop();
+    m_host.showWindow(window);
+}
+
+void Navigator::InetGetClick()
+{
+    if (!m_ctx.ConnectionUp()) {
+        m_ctx.MsgBox(QString::fromLatin1(NoConnection));
+        return;
+    }
+    ShowProgramWindow(ProgramWindow::Inetget);
+}
+
+void Navigator::HelpClick()
+{
+    const QString index = HelpPages::extractTo(m_ctx.state.gstrDataPath + QStringLiteral("help"));
+    if (!index.isEmpty())
+        NavigateSomeWhereElse(index);
+}
+
+void Navigator::HomeClick()
+{
+    StopAutoModes();
+    NavigateSomeWhereElse(QString::fromLatin1(Endpoint::ProductHomeUrl));
+}
+
+void Navigator::GeoCitiesClick()
+{
+    StopAutoModes();
+    NavigateSomeWhereElse(m_ctx.state.gstrSiteLabel);
+}
+
+void Navigator::GeoSearchClick()
+{
+    StopAutoModes();
+    NavigateSomeWhereElse(m_ctx.GetSetting(
+        Sect::AdvOpt, Key::SearchURL,
+        QLatin1String(Endpoint::UsaSiteUrl) + QStringLiteral("/cgi-bin/search/geosearch")));
+}
+
+void Navigator::GeoChatClick()
+{
+    StopAutoModes();
+    NavigateSomeWhereElse(m_ctx.GetSetting(
+        Sect::AdvOpt, Key::ChatURL, QLatin1String(Endpoint::UsaSiteUrl) + QStringLiteral("/chat/")));
+}
+
+void Navigator::PictureClick()
+{
+    if (!m_ctx.ConnectionUp()) {
+        m_ctx.MsgBox(QString::fromLatin1(NoConnection));
+        return;
+    }
+    StopAutoModes();
+    const CatalogueData& cat = m_ctx.state.catalogue;
+    const int i = m_composer.CurrentNeighborhood;
+    if (i >= 1 && i <= CatalogueData::Rows)
+        NavigateSomeWhereElse(m_ctx.state.gstrSiteLabel + cat.name(i) + QLatin1Char('/'));
+}
+
+void Navigator::Unload()
+{
+    SharedState& st = m_ctx.state;
+    SaveMainSettings();
+    m_host.unloadWindow(ProgramWindow::Inetget);
+    m_host.unloadWindow(ProgramWindow::GeoFtp);
+    if (st.gblnWBOneLoaded) {
+        m_host.browserStop();
+        m_host.unloadWindow(ProgramWindow::BrowserOne);
+    }
+    if (st.gblnWBTwoLoaded)
+        m_host.unloadWindow(ProgramWindow::BrowserTwo);
+    if (st.gblnCacheLoaded)
+        m_host.unloadWindow(ProgramWindow::Cache);
+    m_ctx.gdbMain.close();
+    m_host.endProgram();
+}
+
+void Navigator::frmGeoCitiesCalls(int code)
+{
+    try {
+        switch (code) {
+        case 1: m_c.cmbNeighborhood.click(); break;
+        case 2: m_c.cmdGoBack.click(); break;
+        case 3: m_c.cmdNext.click(); break;
+        case 4: m_c.cmdOpenSite.click(); break;
+        case 5: m_host.ShowBrowserOne(); break;
+        case 6: ShowProgramWindow(ProgramWindow::BrowserTwo); break;
+        case 7: m_c.cmdQuite.click(); break;
+        case 8: m_c.mnuRandNav.click(); break;
+        case 9: m_c.mnuAutoNav.click(); break;
+        case 10: SaveMainSettings(); break;
+        case 11: m_c.mnuGeoTree.click(); break;
+        case 12: m_c.mnuOnTop.click(); break;
+        case 13: m_composer.ValidateSelection(); break;
+        case 14: LoadMainSettings(); break;
+        case 15: RandNavStep(); break;
+        case 16: m_composer.ComposeAddress(); break;
+        case 17: StopAutoModes(); break;
+        case 18: m_c.cmbSavedLinks.click(); break;
+        default: break;
+        }
+    } catch (const std::exception&) {
+        // Other windows press these buttons blind: a failure stays here.
+    }
+}
+
+void Navigator::browserStop()
+{
+    if (m_ctx.state.gblnWBOneLoaded)
+        m_host.browserStop();
+}
+
+void Navigator::AutoNavClick() { m_wander.AutoNavClick(); }
+void Navigator::RandNavClick() { m_wander.RandNavClick(); }
+void Navigator::RandNavStep() { m_wander.RandNavStep(); }

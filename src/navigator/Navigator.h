@@ -1,0 +1,96 @@
+#pragma once
+
+#include "AddressComposer.h"
+#include "ComposerHooks.h"
+#include "NavigatorControls.h"
+#include "NavigatorHost.h"
+#include "Wander.h"
+
+#include <QObject>
+#include <QStringList>
+
+struct AppContext;
+
+// The rules of frmGeoCities, the main window: loading and saving its
+// address and options, the region switch, on-top, opening addresses in
+// Browser One, the menus, and frmGeoCitiesCalls, through which the other
+// windows press its buttons. The window itself only shows the controls.
+class Navigator : public QObject, public ComposerHooks
+{
+    Q_OBJECT
+public:
+    Navigator(AppContext& ctx, NavigatorHost& host);
+
+    NavigatorControls& controls() { return m_c; }
+    AddressComposer& composer() { return m_composer; }
+    AppContext& context() { return m_ctx; }
+    Wander& wander() { return m_wander; }
+    NavigatorHost& host() { return m_host; }
+
+    // The window's load: its place and the digit lists. Throws when a
+    // stored place is no number.
+    void Load();
+    // The region's catalogue into the arrays and lists, then the saved links
+    // and the main settings. Throws on a database or settings fault.
+    void LoadCatalogue();
+    void SwitchRegionData(int code);
+    void LoadMainSettings();
+    void SaveMainSettings();
+
+    void NavigateSomeWhereElse(const QString& url);
+    // Runs the window's Unload: saves, closes the other windows, ends.
+    void Unload();
+
+    // Presses a button of this window for another one; errors inside are
+    // ignored, any other code does nothing.
+    void frmGeoCitiesCalls(int code);
+
+    // ComposerHooks
+    void StopAutoModes() override;
+    void LeaveSavedView() override;
+    void OpenSite() override;
+    bool RandNavRunning() const override;
+    void RandNavStep() override;
+    void GoBack() override;
+
+    // Menu entries and other clicks of the window.
+    void JapanClick();
+    void OnTopClick();
+    void GeoTreeClick();
+    void OptionsClick();
+    void AutoNavClick();
+    void RandNavClick();
+    void ShowProgramWindow(ProgramWindow window);
+    void InetGetClick();
+    void HelpClick();
+    void HomeClick();
+    void GeoCitiesClick();
+    void GeoSearchClick();
+    void GeoChatClick();
+    void PictureClick();
+
+    bool SavedViewActive = false;
+
+    // The clamp of a stored main window place: negative becomes 0, and
+    // 4260 by 2850 twips of the window stay on the screen.
+    static QPoint ClampMainPlace(int left, int top, const QRect& screen);
+
+    // Stops the load in Browser One, if it is open.
+    void browserStop();
+
+signals:
+    // The saved links of the region are to be read again (table 2 or 6).
+    void savedLinksReload(int table);
+
+private:
+    void connectEvents();
+    void releaseOnTop(); // the preamble of the menus that show a window
+    bool readFlag(const char* section, const char* key, const char* defaultValue) const;
+    void raise(bool& flag, const char* section, const char* key, const char* defaultValue);
+
+    AppContext& m_ctx;
+    NavigatorHost& m_host;
+    NavigatorControls m_c;
+    AddressComposer m_composer;
+    Wander m_wander;
+};

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "Navigator.h"
+#include "NavigatorHost.h"
+
+#include <QMainWindow>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QMenu;
+class QSlider;
+class WindowRegistry;
+
+// The main window: a small window of fixed size that shows the Navigator's
+// controls and menus. Its rules live in Navigator; closing it ends the
+// program.
+class frmGeoCities : public QMainWindow, public NavigatorHost
+{
+    Q_OBJECT
+public:
+    frmGeoCities(AppContext& ctx, WindowRegistry& windows);
+    ~frmGeoCities() override;
+
+    Navigator& navigator() { return m_nav; }
+
+    // NavigatorHost
+    QRect screenTwips() const override;
+    QRect windowTwips() const override;
+    void moveWindowTwips(int left, int top) override;
+    void setWindowOnTop(bool onTop) override;
+    void ShowBrowserOne() override;
+    void browserNavigate(const QString& url) override;
+    void browserStop() override;
+    void browserGoBack() override;
+    void toggleBrowserOneOnTop() override;
+    bool showWindow(ProgramWindow window) override;
+    void unloadWindow(ProgramWindow window) override;
+    void endProgram() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void buildControls();
+    void buildMenus();
+    QAction* addEntry(QMenu* menu, const QString& name, const QString& caption,
+                      void (Navigator::*slot)());
+    void showPicture();
+
+    AppContext& m_ctx;
+    WindowRegistry& m_windows;
+    Navigator m_nav;
+    QMenu* m_fileMenu = nullptr;
+    QLabel* m_picture = nullptr;
+    bool m_ending = false;
+};
