@@ -1,0 +1,64 @@
+#include "FileServices.h"
+
+#include "AppContext.h"
+#include "SettingsKeys.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+QString UniqueFileName(const QString& path)
+{
+    if (!QFileInfo::exists(path))
+        return path;
+    const int dot = path.indexOf(QLatin1Char('.'));
+    const QString base = dot < 0 ? path : path.left(dot);
+    const QString extension = dot < 0 ? QString() : path.mid(dot);
+    for (int n = 1;; ++n) {
+        const QString candidate = base + QString::number(n) + extension;
+        if (!QFileInfo::exists(candidate))
+            return candidate;
+    }
+}
+
+QString PathBeforeLast(const QString& text, QChar separator)
+{
+    const int at = text.lastIndexOf(separator);
+    return at < 0 ? QString("") : text.left(at + 1);
+}
+
+QString NameAfterLast(const QString& text, QChar separator)
+{
+    const int at = text.lastIndexOf(separator);
+    return at < 0 ? QString("") : text.mid(at + 1);
+}
+
+QString OutputDirectory(const AppContext& ctx)
+{
+    return OutputDirectory(ctx.settings, ctx.state.gstrAppName, ctx.appPath);
+}
+
+QString OutputDirectory(const SettingsStore& settings, const QString& appName,
+                        const QString& appPath)
+{
+    QString fallback = appPath;
+    if (!fallback.endsWith(QLatin1Char('/')))
+        fallback += QLatin1Char('/');
+    QString folder;
+    try {
+        folder = settings.GetSetting(appName, Sect::CacheManager, Key::DefaultOutPutDir, fallback);
+    } catch (const SettingsError&) {
+        return fallback;
+    }
+    return QFileInfo(folder).isDir() ? folder : fallback;
+}
+
+bool FileReadable(const QString& path)
+{
+    if (QFileInfo(path).isDir())
+        return false;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    file.readAll();
+    return file.error() == QFile::NoError;
+}
