@@ -41,11 +41,17 @@ QStringList SystemConnectionProbe::routedInterfaces(const QString& ipv4Routes,
         if (!fields.isEmpty())
             addInterface(names, fields.first());
     }
-    // The IPv6 table has no header; the interface is its last column.
+    // The IPv6 table has no header; the interface is its last column. Every
+    // interface has link-local and multicast routes: they carry no traffic out.
     for (const QString& line : ipv6Routes.split(QLatin1Char('\n'))) {
         const QStringList fields = fieldsOf(line);
-        if (fields.size() >= 2)
-            addInterface(names, fields.last());
+        if (fields.size() < 2)
+            continue;
+        const QString destination = fields.first().toLower();
+        if (destination.startsWith(QLatin1String("fe80")) ||
+            destination.startsWith(QLatin1String("ff")))
+            continue;
+        addInterface(names, fields.last());
     }
     return names;
 }

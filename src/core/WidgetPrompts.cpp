@@ -18,6 +18,12 @@ QString displayText(QString text)
     return text;
 }
 
+// "*.*" would hide the files without a dot in their names here.
+QString dialogFilters(const QStringList& filters)
+{
+    return filters.join(QStringLiteral(";;")).replace(QStringLiteral("(*.*)"), QStringLiteral("(*)"));
+}
+
 QString windowTitle(const QString& title)
 {
     return title.isEmpty() ? QStringLiteral("Vorlan") : title;
@@ -66,17 +72,17 @@ QString WidgetPrompts::inputBox(const QString& prompt, const QString& title,
 QString WidgetPrompts::openFileName(const QString& title, const QString& startFolder,
                                     const QStringList& filters, int selectedFilter)
 {
-    QString selected = filters.value(selectedFilter);
+    QString selected = dialogFilters({filters.value(selectedFilter)});
     return QFileDialog::getOpenFileName(parent(), windowTitle(title), startFolder,
-                                        filters.join(QStringLiteral(";;")), &selected);
+                                        dialogFilters(filters), &selected);
 }
 
 QString WidgetPrompts::saveFileName(const QString& title, const QString& startPath,
                                     const QStringList& filters, int selectedFilter)
 {
-    QString selected = filters.value(selectedFilter);
+    QString selected = dialogFilters({filters.value(selectedFilter)});
     return QFileDialog::getSaveFileName(parent(), windowTitle(title), startPath,
-                                        filters.join(QStringLiteral(";;")), &selected);
+                                        dialogFilters(filters), &selected);
 }
 
 QString WidgetPrompts::folderName(const QString& title, const QString& startFolder)

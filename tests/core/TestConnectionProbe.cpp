@@ -31,9 +31,13 @@ private slots:
         const QString header = "Iface\tDestination\tGateway \tFlags\tRefCnt\tUse\tMetric\tMask\n";
         QVERIFY(SystemConnectionProbe::routedInterfaces(header, "").isEmpty());
         QVERIFY(SystemConnectionProbe::routedInterfaces("", "").isEmpty());
-        // Only loopback routes: no connection.
+        // Only loopback, link-local and multicast routes: no connection.
         const QString v6 = "00000000000000000000000000000001 80 0 00 0 00000000 00000002 "
-                           "00000000 80200001 lo\n";
+                           "00000000 80200001 lo\n"
+                           "fe800000000000000000000000000000 40 0 00 0 00000100 00000002 "
+                           "00000000 00000001 eth1\n"
+                           "ff000000000000000000000000000000 08 0 00 0 00000100 00000004 "
+                           "00000000 00000001 eth1\n";
         QVERIFY(
             SystemConnectionProbe::routedInterfaces(header + "lo\t0000007F\t0\n", v6).isEmpty());
     }
