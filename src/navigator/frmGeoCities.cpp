@@ -241,17 +241,20 @@ QRect frmGeoCities::screenTwips() const
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     const QRect area = screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
-    return Twips::fromPixels(area);
+    return QRect(pixelsToTwips(area.left()), pixelsToTwips(area.top()), pixelsToTwips(area.width()),
+                 pixelsToTwips(area.height()));
 }
 
 QRect frmGeoCities::windowTwips() const
 {
-    return Twips::fromPixels(QRect(frameGeometry().topLeft(), frameGeometry().size()));
+    const QRect frame = frameGeometry();
+    return QRect(pixelsToTwips(frame.left()), pixelsToTwips(frame.top()),
+                 pixelsToTwips(frame.width()), pixelsToTwips(frame.height()));
 }
 
 void frmGeoCities::moveWindowTwips(int left, int top)
 {
-    move(Twips::toPixels(left), Twips::toPixels(top));
+    move(twipsToPixels(left), twipsToPixels(top));
 }
 
 void frmGeoCities::setWindowOnTop(bool onTop)

@@ -1,0 +1,332 @@
+#include "RecordingHost.h"
+#include "TestContext.h"
+#include "addressdata/MainDatabase.h"
+#include "core/EntryProcedure.h"
+#include "core/StartupUi.h"
+#include "navigator/Navigator.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+#include <QtTest>
+#include <memory>
+
+namespace {
+
+// The screen of the start-up, written down.
+class FakeStartupUi : public StartupUi
+{
+public:
+    explicit FakeStartupUi(TestContext& t) : m_t(t) {}
+
+    bool prevInstance = false;
+    QStringList splash;
+    bool mainShown = false;
+    std::unique_ptr<RecordingHost> host;
+    std::unique_ptr<Navigator> navigator;
+
+    void showSplash(const QString& status) override
+    {
+        splash << status;
+        m_t.state.gblnStartUpShown = true;
+    }
+    void unloadSplash() override { m_t.state.gblnStartUpShown = false; }
+    Navigator& loadMainWindow() override
+    {
+        host = std::make_unique<RecordingHost>(m_t.state);
+        navigator = std::make_unique<Navigator>(m_t.ctx, *host);
+        navigator->Load();
+        return *navigator;
+    }
+    void showMainWindow() override { mainShown = true; }
+    bool isPrevInstance() override { return prevInstance; }
+
+private:
+    TestContext& m_t;
+};
+
+// One start of the program in the test's folders.
+struct Start
+{
+    TestContext t;
+    FakeStartupUi ui{t};
+
+    bool run(const QString& commandLine = QString())
+    {
+        EntryProcedure entry(t.ctx, ui);
+        return entry.run(commandLine);
+    }
+    QString data() const { return t.folders.appPath() + "GeoData.db"; }
+    QString backup() const { return t.folders.appPath() + "GeoBckUp.db"; }
+};
+
+QByteArray readAll(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+void writeAll(const QString& path, const QByteArray& bytes)
+{
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(bytes);
+}
+
+// A database with one saved link, so that its origin can be told.
+void addMarkerLink(const QString& path)
+{
+    TextDatabase db("marker");
+    db.open(path);
+    db.append("UsaSaved", {"Neighborhood", "Suburb", "House", "Comment", "Date"},
+              {{"SoHo", "", "1234", "marker", "Saved on: Date = 1/1/2000 Time = 9:15PM"}});
+    db.close();
+}
+
+bool hasMarkerLink(const QString& path)
+{
+    TextDatabase db("check");
+    db.open(path);
+    const bool found = db.recordCount("UsaSaved") == 1;
+    db.close();
+    return found;
+}
+
+// A program folder with a sound GeoData.db and GeoBckUp.db, made by a first start.
+void firstStart(Start& s)
+{
+    QVERIFY(s.run());
+    s.t.db.close();
+    s.ui.navigator.reset();
+}
+
+} // namespace
+
+class TestEntryProcedure : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aFirstStartMakesTheSettingsFolderAndDatabase()
+    {
+        Start s;
+        QVERIFY(s.run());
+        QCOMPARE(s.ui.splash, (QStringList{"    Creating Database...", "    Loading Data..."}));
+        QVERIFY(s.ui.mainShown);
+        QVERIFY(QFileInfo(s.data()).isFile());
+        QCOMPARE(readAll(s.backup()), readAll(s.data()));
+        QCOMPARE(s.t.ctx.GetSetting("Startup", "AdvOptInit"), QString("1"));
+        QCOMPARE(s.t.ctx.GetSetting("Startup", "Path"), s.t.folders.appPath());
+        QCOMPARE(s.t.ctx.GetSetting("AdvOpt", "DefaultSN"), QString("This is a CooL Site!"));
+        QCOMPARE(s.t.ctx.GetSetting("WebBrwsrTwo", "PromptForNewFile"), QString("1"));
+        QCOMPARE(s.t.state.gstrAppName, QString("Vorlan 1.0"));
+        QCOMPARE(s.t.state.gstrDefaultNote, QString("This is a CooL Site!"));
+        QVERIFY(s.t.db.isOpen());
+        QCOMPARE(s.ui.navigator->controls().cmbNeighborhood.listCount(), 41);
+        QVERIFY(s.t.prompts.shown.isEmpty());
+    }
+
+    void aCleanStartRefreshesTheBackup()
+    {
+        Start s;
+        firstStart(s);
+        addMarkerLink(s.data());
+        const QDateTime before = QFileInfo(s.backup()).lastModified();
+        QThread::msleep(20);
+        QVERIFY(s.run());
+        QCOMPARE(s.ui.splash.last(), QString("    Loading Data..."));
+        QVERIFY(QFileInfo(s.backup()).lastModified() > before);
+        QVERIFY(hasMarkerLink(s.backup()));
+        QVERIFY(s.t.prompts.shown.isEmpty());
+    }
+
+    void aMissingDataFileComesFromTheBackupWithoutAQuestion()
+    {
+        Start s;
+        firstStart(s);
+        addMarkerLink(s.backup());
+        QFile::remove(s.data());
+        QVERIFY(s.run());
+        QVERIFY(hasMarkerLink(s.data()));
+        QVERIFY(s.t.prompts.shown.isEmpty());
+    }
+
+    void aBadDataFileIsRestoredSilently_data()
+    {
+        QTest::addColumn<QByteArray>("damage");
+        QTest::newRow("garbage") << QByteArray("not a database at all, just text");
+        QTest::newRow("zero length") << QByteArray();
+        QTest::newRow("truncated") << QByteArray("truncate");
+        QTest::newRow("a table missing") << QByteArray("drop");
+    }
+    void aBadDataFileIsRestoredSilently()
+    {
+        QFETCH(QByteArray, damage);
+        Start s;
+        firstStart(s);
+        addMarkerLink(s.backup());
+        if (damage == "truncate") {
+            const QByteArray bytes = readAll(s.data());
+            writeAll(s.data(), bytes.left(bytes.size() / 2));
+        } else if (damage == "drop") {
+            TextDatabase db("drop");
+            db.open(s.data());
+            QVERIFY(db.handle().exec("DROP TABLE wbtBadTitles").lastError().type() ==
+                    QSqlError::NoError);
+            db.close();
+        } else {
+            writeAll(s.data(), damage);
+        }
+        QVERIFY(s.run());
+        QVERIFY(s.t.prompts.shown.isEmpty());
+        QVERIFY(hasMarkerLink(s.data()));
+        QVERIFY(hasMarkerLink(s.backup()));
+    }
+
+    void withoutASoundCopyTheUserDecides()
+    {
+        Start s;
+        firstStart(s);
+        QFile::remove(s.backup());
+        writeAll(s.data(), "garbage");
+        s.t.prompts.answer(PromptService::No);
+        QVERIFY(!s.run());
+        QCOMPARE(s.t.prompts.shown.size(), 1);
+        const auto& asked = s.t.prompts.shown.first();
+        QCOMPARE(asked.title, QString("Corrupt Database!"));
+        QCOMPARE(asked.text, QString("Warning!!!\r\rThe database is corrupt\rI'm about to Delete it\r"
+                                     "& recreate it! All saved\rdata will be lost!\rPROCEED?\r"));
+        QCOMPARE(asked.style & 7, int(PromptService::YesNo));
+        // No leaves the files as they are, and the same question comes back.
+        QCOMPARE(readAll(s.data()), QByteArray("garbage"));
+        QVERIFY(!QFile::exists(s.backup()));
+        QVERIFY(!s.ui.mainShown);
+
+        s.t.prompts.clear();
+        s.t.prompts.answer(PromptService::Yes);
+        QVERIFY(s.run());
+        QCOMPARE(s.t.prompts.shown.size(), 1);
+        QVERIFY(s.ui.mainShown);
+        QVERIFY(VerifyMainDatabase(s.data(), s.t.state.gastrTables));
+        QCOMPARE(readAll(s.backup()), readAll(s.data()));
+    }
+
+    void aBadBackupIsOverwrittenOnlyOnYes()
+    {
+        Start s;
+        firstStart(s);
+        writeAll(s.data(), "garbage");
+        writeAll(s.backup(), "bad backup");
+        s.t.prompts.answer(PromptService::No);
+        QVERIFY(!s.run());
+        QCOMPARE(readAll(s.backup()), QByteArray("bad backup"));
+        s.t.prompts.answer(PromptService::Yes);
+        QVERIFY(s.run());
+        QVERIFY(VerifyMainDatabase(s.backup(), s.t.state.gastrTables));
+    }
+
+    void readOnlyFilesDoNotBlockTheStart()
+    {
+        Start s;
+        firstStart(s);
+        QFile::setPermissions(s.data(), QFile::ReadOwner);
+        QFile::setPermissions(s.backup(), QFile::ReadOwner);
+        QVERIFY(s.run());
+        QVERIFY(QFile::permissions(s.data()) & QFile::WriteOwner);
+        QVERIFY(QFile::permissions(s.backup()) & QFile::WriteOwner);
+    }
+
+    void aDamagedSettingsFileTakesTheSettingsErrorRoute()
+    {
+        Start s;
+        firstStart(s);
+        addMarkerLink(s.data());
+        writeAll(s.t.settings.filePath("Vorlan 1.0"), QByteArray("\x01\x02\x00junk", 7));
+        QVERIFY(!s.run());
+        QCOMPARE(s.t.prompts.messages(),
+                 QStringList{"A settings error was encountered!\rYou will need to restart Vorlan!"});
+        QVERIFY(!QFile::exists(s.t.settings.filePath("Vorlan 1.0")));
+        QVERIFY(hasMarkerLink(s.data())); // the data stays
+        // The next start is a first use again, on the same data.
+        s.t.prompts.clear();
+        QVERIFY(s.run());
+        QVERIFY(hasMarkerLink(s.data()));
+    }
+
+    void aWaitTooLongFor16BitsTakesTheSettingsErrorRoute()
+    {
+        Start s;
+        s.t.state.gstrAppName = "Vorlan 1.0";
+        s.t.ctx.SaveSetting("Startup", "GlobalTimer", "40000");
+        QVERIFY(!s.run());
+        QCOMPARE(s.t.prompts.messages().size(), 1);
+        QCOMPARE(s.t.ctx.GetSetting("Startup", "GlobalTimer", "gone"), QString("gone"));
+        QVERIFY(!s.t.db.isOpen());
+    }
+
+    void theHelpSwitchIsTheWholeLine()
+    {
+        Start s;
+        QVERIFY(!s.run("/?"));
+        QCOMPARE(s.t.prompts.opened.size(), 1);
+        QVERIFY(QFileInfo(s.t.prompts.opened.first()).isFile());
+        QVERIFY(!QFile::exists(s.data()));
+        QVERIFY(s.ui.splash.isEmpty());
+
+        Start other;
+        QVERIFY(other.run("/? please"));
+        QVERIFY(other.t.prompts.opened.isEmpty());
+    }
+
+    void urlsOnTheCommandLine_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<bool>("url");
+        QTest::newRow("http in capitals") << "HTTP://www.GeoCities.com/SoHo/" << true;
+        QTest::newRow("mailto") << "mailto:someone@example.org" << true;
+        QTest::newRow("shortcut of 9") << "abcde.url" << true;
+        QTest::newRow("shortcut of 5") << "a.url" << false;
+        QTest::newRow("other argument") << "--verbose" << false;
+        QTest::newRow("too short") << "http:/" << false;
+    }
+    void urlsOnTheCommandLine()
+    {
+        QFETCH(QString, line);
+        QFETCH(bool, url);
+        QCOMPARE(EntryProcedure::LooksLikeUrl(line.toLower()), url);
+        Start s;
+        QVERIFY(s.run(line));
+        QCOMPARE(s.t.state.gblnOpenCommandUrl, url);
+        QCOMPARE(!s.ui.host->navigated().isEmpty(), url);
+        if (url)
+            QVERIFY(s.ui.host->navigated().first().endsWith(line.toLower()));
+    }
+
+    void aSecondInstanceWithoutAnAddressLeavesNoTrace()
+    {
+        Start s;
+        s.ui.prevInstance = true;
+        QVERIFY(!s.run());
+        QVERIFY(!QFile::exists(s.t.settings.filePath("Vorlan 1.0")));
+        QVERIFY(!QFile::exists(s.data()));
+        QVERIFY(s.t.prompts.shown.isEmpty() && s.t.prompts.opened.isEmpty());
+    }
+
+    void aSecondInstanceHandsItsAddressOnAndLeaves()
+    {
+        Start s;
+        s.ui.prevInstance = true;
+        QVERIFY(!s.run("http://www.geocities.com/Paris/1234/"));
+        QCOMPARE(s.t.prompts.opened, QStringList{"http://www.geocities.com/paris/1234/"});
+        QVERIFY(s.t.state.gblnHandedOff);
+        QVERIFY(!s.ui.mainShown);
+        QCOMPARE(s.ui.host->calls.last(), QString("end"));
+        // It loaded its data and saved its main window's settings on the way out.
+        QCOMPARE(s.t.ctx.GetSetting("Startup", "HNPS"), QString("1000"));
+        QVERIFY(QFile::exists(s.data()));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestEntryProcedure)
+#include "TestEntryProcedure.moc"
