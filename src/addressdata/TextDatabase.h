@@ -41,7 +41,8 @@ public:
     TextDatabase& operator=(const TextDatabase&) = delete;
 
     // Opens an existing file or, with create set, makes a new one. Throws
-    // DbError when the file cannot be opened or is not a database.
+    // DbError when the file cannot be opened or is not a database, which
+    // includes an empty file and one with damaged pages.
     void open(const QString& path, bool create = false);
     void close();
     bool isOpen() const;
@@ -52,7 +53,8 @@ public:
     // Reads the whole table; throws DbError on any fault of file or table.
     QVector<TextRecord> readAll(const QString& table) const;
     int recordCount(const QString& table) const;
-    // Appends records in one transaction; all or none are stored.
+    // Appends records in one transaction; all or none are stored. A null
+    // text is stored as the empty text.
     void append(const QString& table, const QStringList& fields, const QVector<QStringList>& rows);
     // Runs several writes as one: if work throws, none of them is stored
     // and the error is passed on. Writes may nest.
