@@ -1,13 +1,15 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <array>
 
 // gastrTables: every table and field name of the main database. Row =
 // table index, column 0 the table name, columns 1 to 5 the field names, an
 // empty text ending the row. Row 11 and column 6 are unused.
 namespace Tbl {
-enum Index {
+enum Index
+{
     UsaNeighborhoods = 0,
     UsaSuburbs = 1,
     UsaSaved = 2,

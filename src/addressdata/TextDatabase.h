@@ -3,7 +3,9 @@
 #include <QSqlDatabase>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 #include <QVector>
+#include <functional>
 #include <stdexcept>
 
 // A failed database operation; the message carries the engine's text.
@@ -31,12 +33,16 @@ public:
 
     // connection: a name unique within the process.
     explicit TextDatabase(const QString& connection);
+    // A connection name that no other caller has been given, for a
+    // database that lives for one procedure.
+    static QString uniqueConnectionName(const QString& prefix);
     ~TextDatabase();
     TextDatabase(const TextDatabase&) = delete;
     TextDatabase& operator=(const TextDatabase&) = delete;
 
     // Opens an existing file or, with create set, makes a new one. Throws
-    // DbError when the file cannot be opened or is not a database.
+    // DbError when the file cannot be opened or is not a database, which
+    // includes an empty file and one with damaged pages.
     void open(const QString& path, bool create = false);
     void close();
     bool isOpen() const;
@@ -47,17 +53,30 @@ public:
     // Reads the whole table; throws DbError on any fault of file or table.
     QVector<TextRecord> readAll(const QString& table) const;
     int recordCount(const QString& table) const;
-    // Appends records in one transaction; all or none are stored.
+    // Appends records in one transaction; all or none are stored. A null
+    // text is stored as the empty text.
     void append(const QString& table, const QStringList& fields, const QVector<QStringList>& rows);
+    // Runs several writes as one: if work throws, none of them is stored
+    // and the error is passed on. Writes may nest.
+    void runInTransaction(const std::function<void()>& work);
     void remove(const QString& table, qint64 rowid);
     void removeAll(const QString& table);
 
     QSqlDatabase handle() const;
 
 private:
+    void checkReadable() const;
+    void requireOpen() const;
+    void execute(const QString& sql, const QVariantList& values = {}) const;
+    void rollbackSavepoint() const;
+
     QString m_connection;
     QString m_path;
+    bool m_owner = false; // this object added the connection
 };
 
 // A null field read as text: the empty text for NULL, else the text.
-inline QString NullToEmpty(const QString& value) { return value.isNull() ? QString("") : value; }
+inline QString NullToEmpty(const QString& value)
+{
+    return value.isNull() ? QString("") : value;
+}
