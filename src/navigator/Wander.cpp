@@ -6,6 +6,7 @@
 #include "core/VbRuntime.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <QTime>
 #include <random>
 
