@@ -1,5 +1,6 @@
 #pragma once
 
+#include "browserone/BrowserWindowList.h"
 #include "navigator/NavigatorHost.h"
 
 #include <QObject>
@@ -7,10 +8,12 @@
 #include <QStringList>
 
 struct AppContext;
+class QWebEnginePage;
 class frmGeoCities;
+class frmWBOne;
 
 // The open windows of the program, each made on first use, through which
-// the windows reach each other.
+// the windows reach each other; and the ordered list of its browser windows.
 class WindowRegistry : public QObject
 {
     Q_OBJECT
@@ -19,6 +22,8 @@ public:
     ~WindowRegistry() override;
 
     frmGeoCities* main(bool create = true);
+    frmWBOne* browserOne() const { return m_browserOne; }
+    BrowserWindowList& browsers() { return m_browsers; }
 
     // Whether this build has the window behind a menu entry of that name.
     bool has(const QString& menuEntry) const;
@@ -31,10 +36,16 @@ public:
     void browserStop();
     void browserGoBack();
     void toggleBrowserOneOnTop();
-    QString lastTarget() const { return m_lastTarget; }
+    // A new window for a page that asked for one; returns its page.
+    QWebEnginePage* openPopUp();
+
+    // The tree window's width in twips, 0 while it is not open.
+    int treeWidthTwips() const { return 0; }
+    void unloadLinksPanel();
 
 private:
     AppContext& m_ctx;
     QPointer<frmGeoCities> m_main;
-    QString m_lastTarget;
+    QPointer<frmWBOne> m_browserOne;
+    BrowserWindowList m_browsers;
 };

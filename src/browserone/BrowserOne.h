@@ -1,0 +1,100 @@
+#pragma once
+
+#include "core/Controls.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QTimer>
+
+struct AppContext;
+class BrowserControl;
+class BrowserOneHost;
+class Navigator;
+
+// The rules of frmWBOne, the program's first browser window: it shows the
+// page, reports the load in its caption, holds and releases the walks'
+// timers by the load's progress, refuses or closes pop-ups, and forwards
+// its menu commands to the main window. It never navigates by itself: every
+// address goes through the Navigator's NavigateSomeWhereElse.
+class BrowserOne : public QObject
+{
+    Q_OBJECT
+public:
+    static constexpr const char* UrlHint = "Right Click Page For IE Menu!";
+
+    BrowserOne(AppContext& ctx, Navigator& navigator, BrowserControl& browser,
+               BrowserOneHost& host);
+
+    // Controls of the window.
+    Control form{QStringLiteral("frmWBOne")}; // its text is the caption
+    Control txtAddressBar{QStringLiteral("txtAddressBar")};
+    Control cmdNext{QStringLiteral("cmdNext")};
+    Control mnuAutoNav{QStringLiteral("mnuAutoNav")};
+    Control mnuRandNav{QStringLiteral("mnuRandNav")};
+    Control mnuTop{QStringLiteral("mnuTop")};
+    Control mnuSaved{QStringLiteral("mnuSaved")};
+    QTimer tmrLimit;
+
+    // Fields of the window.
+    QString CurrentUrl;
+    QString ProgressText;
+    QStringList PendingList;
+    int PendingIndex = 0;
+    bool PendingActive = false;
+    bool AddressBarHasFocus = false;
+    bool AddressBarEdited = false;
+
+    BrowserControl& browser() { return m_browser; }
+
+    void Load();
+    void Unload();
+
+    // Browser events.
+    void ProgressChange(int progress, int progressMax);
+    void NewWindow2(bool* cancel);
+    void NavigateComplete2(const QString& url);
+    void ClosePopUpWindows();
+
+    // The text of ProgressText for an event.
+    static QString ProgressTextFor(int progress, int progressMax);
+
+    void CommunicatWithNetPic(const QStringList& list);
+    void CmdNextClick();
+    void AddressBarKey(int key);
+    void AddressBarClick();
+    void WindowKey(int key);
+    void TopClick();
+    void SearchClick(int index);
+    void frmWBOCalls(int command);
+    void LimitTick();
+
+    // Menu entries that forward to the main window.
+    void StopClick();
+    void NextClick();
+    void BackClick();
+    void AutoNavClick();
+    void RandNavClick();
+    void ExitClick();
+
+    // Where the hover menu opens: over the top quarter of the page, between
+    // 10 % and 80 % of its width (50 % over the address bar).
+    static bool HoverMenuAt(int x, int y, int pageWidth, int pageHeight, bool overAddressBar);
+    // The search services of the Search menu, without scheme and "www.".
+    static QString SearchHost(int index, bool japan);
+
+signals:
+    // The saved-links panel is to open or close (frmWBOCalls 2).
+    void savedClicked();
+    // The window's resize handling is to run (frmWBOCalls 3).
+    void resizeRequested();
+
+private:
+    void showCaption(const QString& title);
+    void paceWalks(int progress, int progressMax);
+    void showMode();
+
+    AppContext& m_ctx;
+    Navigator& m_nav;
+    BrowserControl& m_browser;
+    BrowserOneHost& m_host;
+};

@@ -1,0 +1,77 @@
+#include "WebBrowserControl.h"
+
+#include "WebPage.h"
+
+#include <QFileInfo>
+#include <QWebEngineDownloadRequest>
+#include <QWebEngineView>
+
+WebBrowserControl::WebBrowserControl(QWebEngineView* view)
+    : BrowserControl(view), m_view(view), m_page(new WebPage(view))
+{
+    view->setPage(m_page);
+    m_page->newWindow = [this]() -> QWebEnginePage* {
+        bool cancel = false;
+        emit NewWindow2(&cancel);
+        if (cancel || !openWindow)
+            return nullptr;
+        return openWindow();
+    };
+    connect(m_page, &QWebEnginePage::loadStarted, this, [this] {
+        m_finished = false;
+        emit ProgressChange(0, 100);
+    });
+    connect(m_page, &QWebEnginePage::loadProgress, this, [this](int p) {
+        if (!m_finished)
+            emit ProgressChange(p, 100);
+    });
+    connect(m_page, &QWebEnginePage::loadFinished, this, [this](bool) {
+        m_finished = true;
+        emit NavigateComplete2(LocationURL());
+        emit ProgressChange(100, 100);
+        emit ProgressChange(0, 0);
+    });
+    connect(m_page, &QWebEnginePage::titleChanged, this, [this] {
+        if (m_finished)
+            emit ProgressChange(0, 0);
+    });
+}
+
+QUrl WebBrowserControl::UrlOf(const QString& text)
+{
+    if (QFileInfo(text).isFile())
+        return QUrl::fromLocalFile(QFileInfo(text).absoluteFilePath());
+    return QUrl::fromUserInput(text);
+}
+
+void WebBrowserControl::Navigate(const QString& url) { m_view->load(UrlOf(url)); }
+
+void WebBrowserControl::Stop() { m_view->stop(); }
+
+void WebBrowserControl::GoBack() { m_view->back(); }
+
+QString WebBrowserControl::LocationURL() const
+{
+    const QUrl url = m_page->url();
+    return url.isEmpty() || url == QUrl(QStringLiteral("about:blank")) ? QString()
+                                                                         : url.toString();
+}
+
+QString WebBrowserControl::LocationName() const
+{
+    // The engine names an untitled page by its address; the control does not.
+    const QString title = m_page->title();
+    return title == m_page->url().toString() || title == m_page->url().toDisplayString()
+               ? QString()
+               : title;
+}
+
+void WebBrowserControl::SaveAs(const QString& path)
+{
+    m_page->save(path, QWebEngineDownloadRequest::CompleteHtmlSaveFormat);
+}
+
+void WebBrowserControl::PageText(std::function<void(const QString&)> done)
+{
+    m_page->toPlainText([done](const QString& text) { done(text); });
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "BrowserControl.h"
+
+class QWebEngineView;
+class WebPage;
+
+// The browser control on the web engine. Load progress p gives
+// ProgressChange(p, 100); the end of a load gives NavigateComplete2, one
+// ProgressChange with both equal, then ProgressChange(0, 0); a title that
+// arrives after the end gives one more ProgressChange(0, 0). A page's wish
+// for a new window is NewWindow2; refused, the page gets no window.
+class WebBrowserControl : public BrowserControl
+{
+    Q_OBJECT
+public:
+    explicit WebBrowserControl(QWebEngineView* view);
+
+    QWebEngineView* view() const { return m_view; }
+    WebPage* page() const { return m_page; }
+
+    // Makes the window for a page that asked for one; returns its page.
+    std::function<QWebEnginePage*()> openWindow;
+
+    void Navigate(const QString& url) override;
+    void Stop() override;
+    void GoBack() override;
+    QString LocationURL() const override;
+    QString LocationName() const override;
+    void SaveAs(const QString& path) override;
+    void PageText(std::function<void(const QString&)> done) override;
+
+    // The address a text stands for: a local file or a URL.
+    static QUrl UrlOf(const QString& text);
+
+private:
+    QWebEngineView* m_view;
+    WebPage* m_page;
+    bool m_finished = false;
+};

@@ -1,0 +1,280 @@
+#include "frmWBOne.h"
+
+#include "Favorites.h"
+#include "WebBrowserControl.h"
+#include "core/AppContext.h"
+#include "core/ControlBinder.h"
+#include "core/PlaceWindow.h"
+#include "core/WindowPlace.h"
+#include "core/WindowRegistry.h"
+#include "navigator/Navigator.h"
+#include "navigator/frmGeoCities.h"
+
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWebEngineView>
+
+namespace {
+QRect toTwips(const QRect& r)
+{
+    return QRect(pixelsToTwips(r.left()), pixelsToTwips(r.top()), pixelsToTwips(r.width()),
+                 pixelsToTwips(r.height()));
+}
+
+QRect availableScreen()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+}
+} // namespace
+
+frmWBOne::frmWBOne(AppContext& ctx, Navigator& navigator, WindowRegistry& windows)
+    : m_ctx(ctx), m_nav(navigator), m_windows(windows)
+{
+    setObjectName(QStringLiteral("frmWBOne"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setMinimumSize(twipsToPixels(WindowPlace::MinWidth), twipsToPixels(WindowPlace::MinHeight));
+    resize(twipsToPixels(WindowPlace::MinWidth), twipsToPixels(WindowPlace::MinHeight));
+    setAutoFillBackground(true);
+    buildControls();
+    m_rules = std::make_unique<BrowserOne>(ctx, navigator, *m_control, *this);
+    ControlBinder::bindCaption(m_rules->form, this);
+    ControlBinder::bind(m_rules->txtAddressBar, m_addressBar);
+    ControlBinder::bind(m_rules->cmdNext, m_next);
+    buildMenu();
+    connect(m_rules.get(), &BrowserOne::resizeRequested, this, [this] { resize(size()); });
+    m_rules->Load();
+}
+
+frmWBOne::~frmWBOne() = default;
+
+void frmWBOne::buildControls()
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    auto* bar = new QHBoxLayout;
+    bar->setContentsMargins(3, 3, 3, 3);
+    bar->setSpacing(3);
+    m_addressBar = new QLineEdit(this);
+    m_addressBar->installEventFilter(this);
+    m_addressBar->setMouseTracking(true);
+    m_next = new QPushButton(this);
+    m_next->setAutoDefault(false);
+    bar->addWidget(m_addressBar, 1);
+    bar->addWidget(m_next);
+    layout->addLayout(bar);
+
+    m_view = new QWebEngineView(this);
+    m_view->setObjectName(QStringLiteral("WBOne"));
+    layout->addWidget(m_view, 1);
+    m_control = new WebBrowserControl(m_view);
+    m_control->openWindow = [this] { return m_windows.openPopUp(); };
+    m_windows.browsers().addOwn(this, [this] { close(); });
+    // The page's widget appears once the engine has made it; it is what
+    // receives the pointer's moves.
+    m_view->installEventFilter(this);
+    connect(m_view->page(), &QWebEnginePage::loadStarted, this, [this] {
+        if (QWidget* proxy = m_view->focusProxy()) {
+            proxy->setMouseTracking(true);
+            proxy->installEventFilter(this);
+        }
+    });
+}
+
+void frmWBOne::buildMenu()
+{
+    m_menu = new QMenu(tr("&File"), this);
+    m_menu->setObjectName(QStringLiteral("mnuCopy"));
+    BrowserOne& r = *m_rules;
+    auto entry = [this](QMenu* menu, const char* name, const QString& text, auto slot) {
+        QAction* action = menu->addAction(text);
+        action->setObjectName(QLatin1String(name));
+        connect(action, &QAction::triggered, this, slot);
+        return action;
+    };
+    entry(m_menu, "mnuWB1Stop", tr("Stop"), [&r] { r.StopClick(); });
+    entry(m_menu, "mnuNext", tr("Go &Next"), [&r] { r.NextClick(); });
+    entry(m_menu, "mnuBack", tr("Go &Back"), [&r] { r.BackClick(); });
+    ControlBinder::bind(r.mnuAutoNav, m_menu->addAction(r.mnuAutoNav.text()));
+    ControlBinder::bind(r.mnuRandNav, m_menu->addAction(r.mnuRandNav.text()));
+    entry(m_menu, "mnuVorlan", tr("Vorlan"), [this] { VorlanClick(); });
+    ControlBinder::bind(r.mnuSaved, m_menu->addAction(r.mnuSaved.text()));
+    QMenu* xtras = m_menu->addMenu(tr("Xtras"));
+    xtras->setObjectName(QStringLiteral("mnuXtras"));
+    entry(xtras, "mnuFavorites", tr("AddFavorite"), [this] { FavoritesClick(); });
+    entry(xtras, "mnuGetFileLst", tr("Get File List"), [] {})->setEnabled(false);
+    entry(xtras, "mnuSaveAs", tr("SaveAs"), [this] { SaveAsClick(); });
+    entry(xtras, "mnuCopyLink", tr("Copy URL"), [this] { CopyLinkClick(); });
+    entry(xtras, "mnuResize", tr("Reduce"), [this] { ResizeClick(); });
+    ControlBinder::bind(r.mnuTop, xtras->addAction(r.mnuTop.text()));
+    QMenu* search = m_menu->addMenu(tr("Search"));
+    search->setObjectName(QStringLiteral("mnuSearch"));
+    const QStringList engines = {"AltaVista", "HotBot",   "SwBoard", "Lycos",
+                                 "Excite",    "InfoSeek", "Yahoo"};
+    for (int i = 0; i < engines.size(); ++i) {
+        QAction* action = search->addAction(engines[i]);
+        action->setObjectName(QStringLiteral("mnuLinks[%1]").arg(i));
+        connect(action, &QAction::triggered, this, [&r, i] { r.SearchClick(i); });
+    }
+    entry(m_menu, "mnuExit", tr("E&xit"), [&r] { r.ExitClick(); });
+}
+
+void frmWBOne::hover(const QPoint& pos, bool overAddressBar)
+{
+    if (m_menu->isVisible())
+        return;
+    if (overAddressBar && m_rules->AddressBarHasFocus)
+        return;
+    const QPoint inWindow = overAddressBar ? m_addressBar->mapTo(this, pos) : m_view->mapTo(this, pos);
+    if (!BrowserOne::HoverMenuAt(inWindow.x(), inWindow.y(), m_view->width(), m_view->height(),
+                                 overAddressBar))
+        return;
+    const QPoint global = mapToGlobal(inWindow);
+    const QSize size = m_menu->sizeHint();
+    m_menu->popup(global - QPoint(size.width() / 2, size.height() / 2));
+}
+
+bool frmWBOne::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_addressBar) {
+        switch (event->type()) {
+        case QEvent::KeyPress: {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+            m_rules->AddressBarKey(enter ? 13 : key->key());
+            return enter;
+        }
+        case QEvent::MouseButtonPress: m_rules->AddressBarClick(); break;
+        case QEvent::FocusIn: m_rules->AddressBarHasFocus = true; break;
+        case QEvent::FocusOut: m_rules->AddressBarHasFocus = false; break;
+        case QEvent::MouseMove:
+            hover(static_cast<QMouseEvent*>(event)->position().toPoint(), true);
+            break;
+        default: break;
+        }
+    } else if (event->type() == QEvent::MouseMove && watched != this) {
+        hover(static_cast<QMouseEvent*>(event)->position().toPoint(), false);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void frmWBOne::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        m_rules->WindowKey(13);
+    else if (event->key() == Qt::Key_Space)
+        m_rules->WindowKey(32);
+    QWidget::keyPressEvent(event);
+}
+
+void frmWBOne::closeEvent(QCloseEvent* event)
+{
+    m_rules->Unload();
+    m_windows.browsers().remove(this);
+    QWidget::closeEvent(event);
+}
+
+void frmWBOne::placeWindow(const QString& left, const QString& top, const QString& height,
+                           const QString& width)
+{
+    PlaceWindow(this, m_ctx.state, left, top, height, width, false, m_windows.treeWidthTwips());
+}
+
+QRect frmWBOne::screenTwips() const { return toTwips(availableScreen()); }
+
+QRect frmWBOne::windowTwips() const { return toTwips(QRect(pos(), size())); }
+
+void frmWBOne::setWindowOnTop(bool onTop)
+{
+    const bool shown = isVisible();
+    setWindowFlag(Qt::WindowStaysOnTopHint, onTop);
+    if (shown)
+        show();
+}
+
+void frmWBOne::showWalkColours(Wander::Mode mode)
+{
+    QPalette bar = QGuiApplication::palette();
+    QPalette window = QGuiApplication::palette();
+    switch (mode) {
+    case Wander::Mode::AutoNav:
+        bar.setColor(QPalette::Base, QColor(180, 0, 0));
+        bar.setColor(QPalette::Text, Qt::white);
+        window.setColor(QPalette::Window, QColor(255, 0, 0));
+        break;
+    case Wander::Mode::RandNav:
+        bar.setColor(QPalette::Base, QColor(0, 0, 180));
+        bar.setColor(QPalette::Text, Qt::white);
+        window.setColor(QPalette::Window, QColor(0, 0, 255));
+        break;
+    case Wander::Mode::Off: break;
+    }
+    m_addressBar->setPalette(bar);
+    m_addressBar->setReadOnly(mode != Wander::Mode::Off);
+    setPalette(window);
+}
+
+void frmWBOne::closeWindowsAfter(int keep)
+{
+    BrowserWindowList& list = m_windows.browsers();
+    for (int i = list.count() - 1; i >= keep; --i)
+        list.quit(i);
+}
+
+void frmWBOne::unloadLinksPanel() { m_windows.unloadLinksPanel(); }
+
+void frmWBOne::VorlanClick()
+{
+    if (m_ctx.state.gblnWBOneOnTop)
+        m_rules->frmWBOCalls(1);
+    frmGeoCities* main = m_windows.main(false);
+    if (!main)
+        return;
+    if (main->isMinimized())
+        main->showNormal();
+    main->show();
+    const QRect screen = availableScreen();
+    main->move(screen.left() + screen.width() - main->frameGeometry().width(),
+               screen.top() + (screen.height() - main->frameGeometry().height()) / 2);
+    main->raise();
+    main->activateWindow();
+}
+
+void frmWBOne::ResizeClick()
+{
+    showNormal();
+    if (m_ctx.state.gblnTreeShown)
+        move(twipsToPixels(m_windows.treeWidthTwips() + 5), y());
+    resize(twipsToPixels(WindowPlace::MinWidth), twipsToPixels(WindowPlace::MinHeight));
+}
+
+void frmWBOne::CopyLinkClick()
+{
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    clipboard->clear();
+    clipboard->setText(m_rules->CurrentUrl);
+}
+
+void frmWBOne::SaveAsClick()
+{
+    const QString path = m_ctx.prompts.saveFileName(
+        tr("Save Web Page"), m_ctx.state.gstrDataPath + QStringLiteral("page.htm"),
+        {QStringLiteral("Web pages (*.htm *.html)")}, 0);
+    if (!path.isEmpty())
+        m_control->SaveAs(path);
+}
+
+void frmWBOne::FavoritesClick()
+{
+    Favorites::AddFavorite(m_ctx.state.gstrDataPath + QLatin1String(Favorites::FileName),
+                           m_control->LocationURL(), m_control->LocationName());
+}
