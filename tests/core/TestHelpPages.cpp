@@ -1,0 +1,94 @@
+#include "core/HelpPages.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+QString readAll(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QString();
+    return QString::fromUtf8(file.readAll());
+}
+
+QStringList linksIn(const QString& html)
+{
+    QStringList links;
+    static const QRegularExpression attribute(QStringLiteral("(?:href|src)=\"([^\"]*)\""));
+    auto found = attribute.globalMatch(html);
+    while (found.hasNext())
+        links << found.next().captured(1);
+    return links;
+}
+
+} // namespace
+
+class TestHelpPages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theContentsAreBuiltIntoTheProgram()
+    {
+        const QUrl index = HelpPages::indexUrl();
+        QCOMPARE(index, QUrl(QStringLiteral("qrc:/help/index.html")));
+        QVERIFY(readAll(QLatin1Char(':') + index.path()).contains(QLatin1String("<title>")));
+    }
+
+    void extractionWritesEveryPageAndEveryLinkLeadsToOne()
+    {
+        QTemporaryDir tmp;
+        const QString folder = tmp.filePath(QStringLiteral("not/yet/there"));
+        const QString index = HelpPages::extractTo(folder);
+        QCOMPARE(index, QDir(folder).filePath(QStringLiteral("index.html")));
+
+        const QStringList pages = QDir(folder).entryList(QDir::Files);
+        QVERIFY(pages.size() > 3);
+        const QStringList fromIndex = linksIn(readAll(index));
+        for (const QString& page : pages) {
+            QCOMPARE(readAll(QDir(folder).filePath(page)), readAll(":/help/" + page));
+            if (page != QLatin1String("index.html"))
+                QVERIFY2(fromIndex.contains(page), qPrintable(page + " is not in the contents"));
+            // Every link stays inside the help: no outside page, picture or style.
+            for (const QString& link : linksIn(readAll(QDir(folder).filePath(page)))) {
+                const QString target = link.section(QLatin1Char('#'), 0, 0);
+                QVERIFY2(!target.contains(QLatin1Char(':')), qPrintable(page + ": " + link));
+                QVERIFY2(target.isEmpty() || QFile::exists(QDir(folder).filePath(target)),
+                         qPrintable(page + ": " + link));
+            }
+        }
+    }
+
+    void extractingAgainReplacesOldCopies()
+    {
+        QTemporaryDir tmp;
+        const QString index = HelpPages::extractTo(tmp.path());
+        QVERIFY(!index.isEmpty());
+        {
+            QFile spoilt(index);
+            QVERIFY(spoilt.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            spoilt.write("old");
+        }
+        QCOMPARE(HelpPages::extractTo(tmp.path()), index);
+        QCOMPARE(readAll(index), readAll(QStringLiteral(":/help/index.html")));
+    }
+
+    void aFolderThatCannotBeMadeGivesNoPath()
+    {
+        QTemporaryDir tmp;
+        const QString file = tmp.filePath(QStringLiteral("plain"));
+        QFile blocker(file);
+        QVERIFY(blocker.open(QIODevice::WriteOnly));
+        blocker.close();
+        QVERIFY(HelpPages::extractTo(file + QStringLiteral("/help")).isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestHelpPages)
+#include "TestHelpPages.moc"
