@@ -2,6 +2,7 @@
 
 #include "BrowserControl.h"
 
+class QWebEnginePage;
 class QWebEngineView;
 class WebPage;
 

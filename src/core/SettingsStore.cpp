@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStringDecoder>
@@ -53,10 +54,12 @@ QString SettingsStore::filePath(const QString& app) const
 
 QSettings& SettingsStore::open(const QString& app) const
 {
-    auto it = m_files.find(app);
-    if (it != m_files.end())
-        return **it;
     const QString path = filePath(app);
+    const QFileInfo info(path);
+    auto it = m_files.find(app);
+    if (it != m_files.end() && it->modified == info.lastModified() &&
+        it->size == (info.exists() ? info.size() : -1))
+        return *it->settings;
     QFile file(path);
     if (file.exists()) {
         if (!file.open(QIODevice::ReadOnly))
@@ -67,7 +70,7 @@ QSettings& SettingsStore::open(const QString& app) const
     auto settings = std::make_shared<QSettings>(path, QSettings::IniFormat);
     if (settings->status() != QSettings::NoError)
         throw SettingsError("The settings file is damaged: " + path.toStdString());
-    m_files.insert(app, settings);
+    m_files.insert(app, File{settings, info.lastModified(), info.exists() ? info.size() : -1});
     return *settings;
 }
 
@@ -88,12 +91,24 @@ void SettingsStore::SaveSetting(const QString& app, const QString& section, cons
     if (s.status() != QSettings::NoError)
         throw SettingsError("The settings file cannot be written: " + filePath(app).toStdString());
     secure(app);
+    remember(app);
 }
 
 void SettingsStore::DeleteSetting(const QString& app)
 {
     m_files.remove(app);
     QFile::remove(filePath(app));
+}
+
+// The file as this store wrote it is known to be sound.
+void SettingsStore::remember(const QString& app) const
+{
+    const QFileInfo info(filePath(app));
+    auto it = m_files.find(app);
+    if (it != m_files.end()) {
+        it->modified = info.lastModified();
+        it->size = info.size();
+    }
 }
 
 void SettingsStore::secure(const QString& app) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QHash>
 #include <QString>
 #include <memory>
@@ -37,9 +38,17 @@ public:
     QString folder() const { return m_folder; }
 
 private:
+    struct File
+    {
+        std::shared_ptr<QSettings> settings;
+        QDateTime modified;
+        qint64 size = -1;
+    };
     QSettings& open(const QString& app) const;
     void secure(const QString& app) const;
+    void remember(const QString& app) const;
 
     QString m_folder;
-    mutable QHash<QString, std::shared_ptr<QSettings>> m_files;
+    // Each file is checked again when another process changed it.
+    mutable QHash<QString, File> m_files;
 };

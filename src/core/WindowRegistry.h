@@ -1,7 +1,9 @@
 #pragma once
 
 #include "browserone/BrowserWindowList.h"
+#include "browserone/frmWBOne.h"
 #include "navigator/NavigatorHost.h"
+#include "navigator/frmGeoCities.h"
 
 #include <QObject>
 #include <QPointer>
@@ -9,8 +11,6 @@
 
 struct AppContext;
 class QWebEnginePage;
-class frmGeoCities;
-class frmWBOne;
 
 // The open windows of the program, each made on first use, through which
 // the windows reach each other; and the ordered list of its browser windows.

@@ -2,6 +2,7 @@
 
 #include "NavigatorHost.h"
 #include "addressdata/CatalogueLoader.h"
+#include "addressdata/TextDatabase.h"
 #include "core/AppContext.h"
 #include "core/Endpoints.h"
 #include "core/HelpPages.h"

@@ -16,10 +16,15 @@ const char* const NoConnection = "No internet connection!";
 QString clockText() { return QTime::currentTime().toString(QStringLiteral("h:mm:ss AP")); }
 
 // One value of the generator, reseeded from the given number, as the text
-// a single-precision value prints as.
+// a single-precision value prints as. As with the classic runtime, a reseed
+// mixes the number into the generator's state instead of restarting it, so
+// draws within the same second of the clock still differ.
 QString reseededDraw(double seed)
 {
-    std::mt19937 generator(static_cast<std::uint32_t>(std::fmod(seed, 4294967296.0)));
+    static std::mt19937 generator;
+    std::seed_seq mixed{static_cast<std::uint32_t>(generator()),
+                        static_cast<std::uint32_t>(std::fmod(seed, 4294967296.0))};
+    generator.seed(mixed);
     std::uniform_real_distribution<float> unit(0.0f, 1.0f);
     return QString::number(static_cast<double>(unit(generator)), 'g', 7);
 }

@@ -53,7 +53,7 @@ void frmGeoCities::buildControls()
 
     m_picture = new QLabel(central);
     m_picture->setObjectName(c.picNeighborhood.name());
-    m_picture->setFixedSize(NeighborhoodPictures::size() + QSize(4, 4));
+    m_picture->setFixedSize(QSize(NeighborhoodPictures::Size + 4, NeighborhoodPictures::Size + 4));
     m_picture->setFrameShape(QFrame::StyledPanel);
     m_picture->setAlignment(Qt::AlignCenter);
     m_picture->setCursor(Qt::PointingHandCursor);

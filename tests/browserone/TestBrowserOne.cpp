@@ -173,9 +173,14 @@ private slots:
         r.browser.progress(10, 100);
         QVERIFY(r.one->tmrLimit.isActive());
         const int stops = r.browser.stops;
-        QTRY_COMPARE(r.host.navigated().last(), QString("http://www.geocities.com/Area51/2002/"));
+        const int opened = r.host.navigated().size();
+        // The limit does not stop itself: it goes on cutting until a page completes.
+        QTRY_VERIFY(r.host.navigated().size() >= opened + 2);
+        QCOMPARE(r.host.navigated().at(opened), QString("http://www.geocities.com/Area51/2002/"));
+        QCOMPARE(r.host.navigated().at(opened + 1), QString("http://www.geocities.com/Area51/2003/"));
         QVERIFY(r.browser.stops > stops);
-        QVERIFY(r.nav.wander().tmrAN.isActive() || r.c.mnuAutoNav.isChecked());
+        r.browser.progress(100, 100);
+        QVERIFY(!r.one->tmrLimit.isActive());
     }
 
     void popUpsAreRefusedOrClosed()

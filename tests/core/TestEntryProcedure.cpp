@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSqlError>
+#include <QSqlQuery>
 #include <QThread>
 #include <QtTest>
 #include <memory>
@@ -99,6 +101,7 @@ void firstStart(Start& s)
     QVERIFY(s.run());
     s.t.db.close();
     s.ui.navigator.reset();
+    s.ui.mainShown = false;
 }
 
 } // namespace
