@@ -38,6 +38,7 @@ frmGeoCities::frmGeoCities(AppContext& ctx, WindowRegistry& windows)
     buildMenus();
     adjustSize();
     setFixedSize(sizeHint());
+    m_nav.Load();
 }
 
 frmGeoCities::~frmGeoCities() = default;

@@ -19,6 +19,8 @@ class frmGeoCities : public QMainWindow, public NavigatorHost
 {
     Q_OBJECT
 public:
+    // Makes the window and runs its load: its place and the digit lists.
+    // Throws when a stored place is no number.
     frmGeoCities(AppContext& ctx, WindowRegistry& windows);
     ~frmGeoCities() override;
 
