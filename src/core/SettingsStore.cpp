@@ -6,6 +6,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStringDecoder>
+#include <exception>
 
 namespace {
 
@@ -85,13 +86,30 @@ void SettingsStore::SaveSetting(const QString& app, const QString& section, cons
                                 const QString& value)
 {
     QDir().mkpath(m_folder);
+    open(app).setValue(normalKey(section, key), value);
+    if (m_batches == 0)
+        flush(app);
+}
+
+void SettingsStore::flush(const QString& app)
+{
     QSettings& s = open(app);
-    s.setValue(normalKey(section, key), value);
     s.sync();
     if (s.status() != QSettings::NoError)
         throw SettingsError("The settings file cannot be written: " + filePath(app).toStdString());
     secure(app);
     remember(app);
+}
+
+SettingsStore::Batch::Batch(SettingsStore& store, const QString& app) : m_store(store), m_app(app)
+{
+    ++m_store.m_batches;
+}
+
+SettingsStore::Batch::~Batch() noexcept(false)
+{
+    if (--m_store.m_batches == 0 && !std::uncaught_exceptions())
+        m_store.flush(m_app);
 }
 
 void SettingsStore::DeleteSetting(const QString& app)

@@ -34,6 +34,20 @@ public:
                      const QString& value);
     void DeleteSetting(const QString& app);
 
+    // Within a batch, writes reach the file once, when the batch ends.
+    class Batch
+    {
+    public:
+        Batch(SettingsStore& store, const QString& app);
+        ~Batch() noexcept(false);
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+
+    private:
+        SettingsStore& m_store;
+        QString m_app;
+    };
+
     QString filePath(const QString& app) const;
     QString folder() const { return m_folder; }
 
@@ -47,8 +61,10 @@ private:
     QSettings& open(const QString& app) const;
     void secure(const QString& app) const;
     void remember(const QString& app) const;
+    void flush(const QString& app);
 
     QString m_folder;
     // Each file is checked again when another process changed it.
     mutable QHash<QString, File> m_files;
+    int m_batches = 0;
 };

@@ -139,6 +139,7 @@ void Navigator::LoadMainSettings()
 void Navigator::SaveMainSettings()
 {
     SharedState& st = m_ctx.state;
+    const SettingsStore::Batch batch(m_ctx.settings, st.gstrAppName);
     m_ctx.SaveSetting(Sect::AdvOpt, Key::OnTopSynch,
                       st.gblnOnTopSynch ? QStringLiteral("1") : QString(""));
     m_ctx.SaveSetting(Sect::AdvOpt, Key::JapanRNS, flagText(st.gblnJapanRNS));

@@ -73,6 +73,33 @@ private slots:
         QVERIFY(!QFile::exists(s.filePath(app)));
     }
 
+    void aBatchWritesTheFileOnceAtItsEnd()
+    {
+        TestFolders f;
+        SettingsStore s(f.config());
+        {
+            const SettingsStore::Batch batch(s, app);
+            s.SaveSetting(app, Sect::Startup, Key::Neigh, "SoHo");
+            s.SaveSetting(app, Sect::Startup, Key::HNPS, "4321");
+            QVERIFY(!QFile::exists(s.filePath(app)));
+            QCOMPARE(s.GetSetting(app, Sect::Startup, Key::Neigh), QString("SoHo"));
+        }
+        SettingsStore again(f.config());
+        QCOMPARE(again.GetSetting(app, Sect::Startup, Key::HNPS), QString("4321"));
+    }
+
+    void anotherProcessesChangesAreSeen()
+    {
+        TestFolders f;
+        SettingsStore mine(f.config());
+        SettingsStore theirs(f.config());
+        mine.SaveSetting(app, Sect::Startup, Key::Neigh, "SoHo");
+        QCOMPARE(theirs.GetSetting(app, Sect::Startup, Key::Neigh), QString("SoHo"));
+        QTest::qWait(20); // a file time that differs
+        theirs.SaveSetting(app, Sect::Startup, Key::Neigh, "Paris!");
+        QCOMPARE(mine.GetSetting(app, Sect::Startup, Key::Neigh), QString("Paris!"));
+    }
+
     void aDamagedFileIsAnErrorNotEmptySettings_data()
     {
         QTest::addColumn<QByteArray>("content");
