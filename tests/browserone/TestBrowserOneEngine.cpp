@@ -1,0 +1,172 @@
+#include "EngineEnvironment.h"
+#include "LocalWebServer.h"
+#include "TestContext.h"
+#include "browserone/WebBrowserControl.h"
+#include "browserone/frmWBOne.h"
+#include "core/WindowRegistry.h"
+#include "navigator/frmGeoCities.h"
+
+#include <QApplication>
+#include <QRegularExpression>
+#include <QtTest>
+
+namespace {
+
+// House numbers that stall instead of completing, shared with the server.
+QSet<QString> stalledHouses;
+
+LocalWebServer::Reply answer(const QString& url)
+{
+    static const QRegularExpression house(QStringLiteral("/(\\d{4})/$"));
+    const auto m = house.match(url);
+    if (url.endsWith(QLatin1String("/popup/")))
+        return {LocalWebServer::page(
+            "Opens a window",
+            "<script>window.open('http://www.geocities.com/popped/');</script>"
+            "<img src='http://www.geocities.com/slow.gif'>")};
+    if (url.endsWith(QLatin1String("/slow.gif")))
+        return {QByteArray(), 404, false, 400};
+    if (m.hasMatch()) {
+        const QString number = m.captured(1);
+        return {LocalWebServer::page("House " + number), 200, stalledHouses.contains(number)};
+    }
+    return {LocalWebServer::page("Elsewhere")};
+}
+
+// The program's windows on a new database, with the connection up.
+struct EngineRig
+{
+    TestContext t;
+    WindowRegistry windows{t.ctx};
+    Navigator* nav = nullptr;
+
+    EngineRig()
+    {
+        t.createAndOpenDatabase();
+        nav = &windows.main()->navigator();
+        nav->LoadCatalogue();
+    }
+    ~EngineRig()
+    {
+        nav->StopAutoModes();
+        if (windows.browserOne())
+            windows.browserOne()->close();
+    }
+    BrowserOne& one() { return windows.browserOne()->rules(); }
+    bool done() { return windows.browserOne() && one().form.text().endsWith("[Done]"); }
+};
+
+} // namespace
+
+class TestBrowserOneEngine : public QObject
+{
+    Q_OBJECT
+    LocalWebServer server{answer};
+
+    QStringList houses() const
+    {
+        QStringList found;
+        for (const QString& url : server.requested) {
+            if (url.startsWith("http://www.geocities.com/Area51/"))
+                found << url.mid(32, 4);
+        }
+        return found;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(server.start());
+        EngineEnvironment::prepare(server.proxyAddress());
+    }
+
+    void init()
+    {
+        server.requested.clear();
+        stalledHouses.clear();
+    }
+
+    void openShowsThePageWithItsProgressInTheCaption()
+    {
+        EngineRig r;
+        QStringList captions;
+        r.nav->controls().cmdOpenSite.click();
+        QVERIFY(r.windows.browserOne());
+        QObject::connect(&r.one().form, &Control::viewChanged,
+                         [&] { captions << r.one().form.text(); });
+        QTRY_VERIFY_WITH_TIMEOUT(r.done(), 20000);
+        QVERIFY(!server.requested.isEmpty());
+        QCOMPARE(server.requested.first(), QString("http://www.geocities.com/Area51/1000/"));
+        QCOMPARE(r.one().form.text(), QString("     House 1000          [Done]"));
+        QCOMPARE(r.one().txtAddressBar.text(), QString("http://www.geocities.com/Area51/1000/"));
+        QVERIFY(!captions.filter(QRegularExpression("\\[\\d+%\\]$")).isEmpty());
+        QVERIFY(r.nav->controls().cmdGoBack.isEnabled());
+
+        // The next page reuses the window and its engine.
+        frmWBOne* window = r.windows.browserOne();
+        r.nav->controls().cmdNext.click();
+        QTRY_VERIFY_WITH_TIMEOUT(r.one().form.text() == "     House 1001          [Done]", 10000);
+        QCOMPARE(r.windows.browserOne(), window);
+    }
+
+    void popUpsAreRefusedBeforeTheyOpen()
+    {
+        EngineRig r;
+        r.t.state.gblnEliminatePopUps = true;
+        r.nav->NavigateSomeWhereElse("geocities.com/popup/");
+        QTRY_VERIFY_WITH_TIMEOUT(r.done(), 20000);
+        QTest::qWait(300);
+        QCOMPARE(r.windows.browsers().count(), 1);
+        QVERIFY(!server.requested.contains("http://www.geocities.com/popped/"));
+    }
+
+    void popUpsAreClosedAfterTheyOpen()
+    {
+        EngineRig r;
+        r.t.state.gblnEliminatePopUps = false;
+        r.t.state.gblnClosePopUps = true;
+        r.nav->NavigateSomeWhereElse("geocities.com/popup/");
+        QTRY_VERIFY_WITH_TIMEOUT(server.requested.contains("http://www.geocities.com/popped/"),
+                                 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(r.done(), 20000);
+        QTRY_COMPARE(r.windows.browsers().count(), 1);
+        QCOMPARE(r.windows.browsers().at(0), r.windows.browserOne());
+    }
+
+    void popUpsStayWithBothOptionsOff()
+    {
+        EngineRig r;
+        r.t.state.gblnEliminatePopUps = false;
+        r.t.state.gblnClosePopUps = false;
+        r.nav->NavigateSomeWhereElse("geocities.com/popup/");
+        QTRY_COMPARE_WITH_TIMEOUT(r.windows.browsers().count(), 2, 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(r.done(), 20000);
+        QCOMPARE(r.windows.browsers().count(), 2);
+        r.windows.browsers().quit(1);
+    }
+
+    void autoNavMovesOnAfterCompletedPagesAndAfterTheLimit()
+    {
+        EngineRig r;
+        r.t.state.glngAutoLimit = 600;
+        r.nav->wander().setInterval(150);
+        stalledHouses << "1003";
+        r.nav->controls().mnuAutoNav.click();
+        QVERIFY(r.one().tmrLimit.interval() == 600);
+        QTRY_VERIFY_WITH_TIMEOUT(houses().contains("1005"), 30000);
+        r.nav->StopAutoModes();
+        const QStringList walked = houses();
+        QCOMPARE(walked.mid(0, 5), (QStringList{"1001", "1002", "1003", "1004", "1005"}));
+        QCOMPARE(r.one().mnuAutoNav.isChecked(), false);
+    }
+};
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QApplication app(argc, argv);
+    TestBrowserOneEngine test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "TestBrowserOneEngine.moc"
