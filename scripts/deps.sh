@@ -23,8 +23,9 @@ vorlan_install_deps() {
     DEBIAN_FRONTEND=noninteractive "${sudo[@]}" apt-get install -y -q --no-install-recommends "${missing[@]}"
 }
 
+# vorlan_build TOP [BUILD_TYPE] [BUILD_DIR]
 vorlan_build() {
-    local top="$1" type="${2:-RelWithDebInfo}"
-    cmake -S "$top" -B "$top/build" -DCMAKE_BUILD_TYPE="$type" >/dev/null
-    cmake --build "$top/build" -j"$(nproc)"
+    local top="$1" type="${2:-RelWithDebInfo}" dir="${3:-$1/build}"
+    cmake -S "$top" -B "$dir" -DCMAKE_BUILD_TYPE="$type" >/dev/null
+    cmake --build "$dir" -j"$(nproc)"
 }

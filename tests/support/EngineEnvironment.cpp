@@ -13,7 +13,9 @@ void prepare(const QString& proxyAddress)
                              // through the proxy fails at once.
                              " --host-resolver-rules=\"MAP * ~NOTFOUND, EXCLUDE 127.0.0.1\""
                              " --disable-background-networking --disable-component-update"
-                             " --no-first-run --disable-gpu --disable-quic";
+                             " --no-first-run --disable-gpu --disable-quic"
+                             " --disable-renderer-backgrounding --disable-background-timer-throttling"
+                             " --disable-backgrounding-occluded-windows";
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", flags);
 
 }

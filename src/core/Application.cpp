@@ -1,0 +1,44 @@
+#include "Application.h"
+
+#include "AppContext.h"
+#include "EntryProcedure.h"
+#include "MainStartupUi.h"
+#include "WidgetPrompts.h"
+#include "WindowRegistry.h"
+#include "addressdata/TextDatabase.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <QTimer>
+#include <unistd.h>
+
+int RunVorlan(int argc, char* argv[], std::function<void(QWidget*)> shown)
+{
+    // The browser engine runs as root only without its sandbox.
+    if (geteuid() == 0)
+        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Vorlan"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    // The command line as one text, as the program reads it.
+    const QString commandLine = QApplication::arguments().mid(1).join(QLatin1Char(' '));
+
+    SharedState state;
+    SettingsStore settings;
+    WidgetPrompts prompts;
+    SystemConnectionProbe probe;
+    TextDatabase gdbMain(QStringLiteral("gdbMain"));
+    AppContext ctx{state, settings, prompts, probe, gdbMain,
+                   QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+                       QLatin1Char('/')};
+    WindowRegistry windows(ctx);
+    MainStartupUi ui(ctx, windows, MainStartupUi::defaultLockPath());
+    EntryProcedure entry(ctx, ui);
+    if (!entry.run(commandLine))
+        return 0;
+    if (shown)
+        QTimer::singleShot(0, &app, [&windows, shown] { shown(windows.main()); });
+    return QApplication::exec();
+}
