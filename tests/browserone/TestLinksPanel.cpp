@@ -154,24 +154,12 @@ private slots:
         QCOMPARE(main.txtFullAddress.text(), QString("geocities.com/Tokyo/5600/"));
     }
 
-    void aClickWithoutAChoiceDoesNothing()
-    {
-        PanelRig r;
-        r.saveAt("SoHo", "12", "soho");
-        r.host.calls.clear();
-        r.panel->ListClick();
-        QVERIFY(r.host.calls.isEmpty());
-        QVERIFY(!r.links.SavedViewActive);
-    }
-
     void thePanelIsKeptOnTheScreen_data()
     {
         QTest::addColumn<QRect>("place");
         QTest::addColumn<QPoint>("kept");
-        QTest::newRow("inside") << QRect(100, 200, 5000, 3300) << QPoint(100, 200);
         QTest::newRow("left of it") << QRect(-900, 200, 5000, 3300) << QPoint(0, 200);
         QTest::newRow("right of it") << QRect(14000, 200, 5000, 3300) << QPoint(10360, 200);
-        QTest::newRow("above") << QRect(100, -1, 5000, 3300) << QPoint(100, 0);
         QTest::newRow("below") << QRect(100, 9000, 5000, 3300) << QPoint(100, 8220);
     }
     void thePanelIsKeptOnTheScreen()
