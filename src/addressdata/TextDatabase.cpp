@@ -172,12 +172,17 @@ bool TextDatabase::hasTable(const QString& table) const
     return query.next();
 }
 
-QVector<TextRecord> TextDatabase::readAll(const QString& table) const
+QVector<TextRecord> TextDatabase::readAll(const QString& table, const QStringList& fields) const
 {
     requireOpen();
+    QStringList named;
+    for (const QString& field : fields)
+        named.append(quoted(field));
+    const QString selected = named.isEmpty() ? QStringLiteral("*") : named.join(", ");
     QSqlQuery query(handle());
     query.setForwardOnly(true);
-    if (!query.exec(QStringLiteral("SELECT rowid, * FROM %1 ORDER BY rowid").arg(quoted(table))))
+    if (!query.exec(
+            QStringLiteral("SELECT rowid, %1 FROM %2 ORDER BY rowid").arg(selected, quoted(table))))
         fail(QStringLiteral("Cannot read ") + table, query.lastError());
     const int columns = query.record().count();
     QVector<TextRecord> records;

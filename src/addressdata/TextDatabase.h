@@ -51,7 +51,9 @@ public:
     void createTable(const QString& table, const QStringList& fields);
     bool hasTable(const QString& table) const;
     // Reads the whole table; throws DbError on any fault of file or table.
-    QVector<TextRecord> readAll(const QString& table) const;
+    // With fields given, only those, by name and in that order; a table that
+    // lacks one of them is a fault.
+    QVector<TextRecord> readAll(const QString& table, const QStringList& fields = {}) const;
     int recordCount(const QString& table) const;
     // Appends records in one transaction; all or none are stored. A null
     // text is stored as the empty text.

@@ -46,6 +46,7 @@ frmWBOne::frmWBOne(AppContext& ctx, Navigator& navigator, WindowRegistry& window
     setAutoFillBackground(true);
     buildControls();
     m_rules = std::make_unique<BrowserOne>(ctx, navigator, *m_control, *this);
+    m_links = std::make_unique<LinksPanel>(ctx, navigator, *m_rules, windows);
     ControlBinder::bindCaption(m_rules->form, this);
     ControlBinder::bind(m_rules->txtAddressBar, m_addressBar);
     ControlBinder::bind(m_rules->cmdNext, m_next);

@@ -2,6 +2,7 @@
 
 #include "BrowserOne.h"
 #include "BrowserOneHost.h"
+#include "LinksPanel.h"
 
 #include <QWidget>
 #include <memory>
@@ -27,6 +28,7 @@ public:
     WebBrowserControl& control() { return *m_control; }
     QWebEngineView* WBOne() const { return m_view; }
     QMenu* mnuCopy() const { return m_menu; }
+    LinksPanel& linksPanel() { return *m_links; }
 
     // BrowserOneHost
     void placeWindow(const QString& left, const QString& top, const QString& height,
@@ -64,4 +66,5 @@ private:
     QMenu* m_menu = nullptr;
     WebBrowserControl* m_control = nullptr;
     std::unique_ptr<BrowserOne> m_rules;
+    std::unique_ptr<LinksPanel> m_links;
 };

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QSignalBlocker>
 #include <QSlider>
 
@@ -100,6 +101,30 @@ void bind(ListControl& model, QComboBox* combo)
     QObject::connect(&model, &Control::viewChanged, combo, show);
     QObject::connect(combo, qOverload<int>(&QComboBox::activated), &model,
                      [&model](int index) { model.userSelect(index); });
+}
+
+void bind(ListControl& model, QListWidget* list)
+{
+    list->setObjectName(model.name());
+    auto showItems = [&model, list] {
+        const QSignalBlocker block(list);
+        list->clear();
+        list->addItems(model.items());
+    };
+    auto show = [&model, list] {
+        const QSignalBlocker block(list);
+        list->setCurrentRow(model.listIndex());
+        showCommon(model, list);
+    };
+    showItems();
+    show();
+    QObject::connect(&model, &ListControl::itemsChanged, list, [showItems, show] {
+        showItems();
+        show();
+    });
+    QObject::connect(&model, &Control::viewChanged, list, show);
+    QObject::connect(list, &QListWidget::itemClicked, &model,
+                     [&model, list](QListWidgetItem* item) { model.userSelect(list->row(item)); });
 }
 
 void bind(SliderControl& model, QSlider* slider)

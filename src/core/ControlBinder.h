@@ -8,6 +8,7 @@ class QAction;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QListWidget;
 class QSlider;
 class QWidget;
 
@@ -18,6 +19,8 @@ namespace ControlBinder {
 void bind(Control& model, QAbstractButton* button);
 void bind(Control& model, QAction* action);
 void bind(ListControl& model, QComboBox* combo);
+// A click on an entry of the list is the user's choice of it.
+void bind(ListControl& model, QListWidget* list);
 void bind(SliderControl& model, QSlider* slider);
 void bind(Control& model, QLineEdit* edit);
 void bind(Control& model, QLabel* label);

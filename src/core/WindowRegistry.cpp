@@ -1,6 +1,7 @@
 #include "WindowRegistry.h"
 
 #include "AppContext.h"
+#include "PlaceWindow.h"
 #include "WindowPlace.h"
 #include "browserone/PopUpWindow.h"
 #include "browserone/WebBrowserControl.h"
@@ -9,6 +10,7 @@
 #include "navigator/frmGeoCities.h"
 
 #include <QGuiApplication>
+#include <QListWidget>
 #include <QScreen>
 
 WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx) {}
@@ -89,4 +91,48 @@ QWebEnginePage* WindowRegistry::openPopUp()
     return window->webPage();
 }
 
-void WindowRegistry::unloadLinksPanel() {}
+void WindowRegistry::unloadLinksPanel()
+{
+    closePanel();
+}
+
+QRect WindowRegistry::screenTwips() const
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QRect area = screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+    return QRect(0, 0, pixelsToTwips(area.width()), pixelsToTwips(area.height()));
+}
+
+QRect WindowRegistry::panelTwips() const
+{
+    if (!m_linksPanel)
+        return QRect(0, 0, WindowPlace::MinWidth, WindowPlace::MinHeight);
+    const QRect place(m_linksPanel->pos(), m_linksPanel->size());
+    return QRect(pixelsToTwips(place.left()), pixelsToTwips(place.top()),
+                 pixelsToTwips(place.width()), pixelsToTwips(place.height()));
+}
+
+void WindowRegistry::placePanel(const QString& left, const QString& top, const QString& height,
+                                const QString& width)
+{
+    if (!m_linksPanel && m_browserOne && m_main)
+        m_linksPanel = new frmWBOLinks(m_main->navigator().savedLinks(), m_browserOne->linksPanel(),
+                                       m_browserOne);
+    PlaceWindow(m_linksPanel, m_ctx.state, left, top, height, width, false, treeWidthTwips());
+}
+
+void WindowRegistry::showPanel()
+{
+    if (!m_linksPanel)
+        return;
+    m_linksPanel->show();
+    m_linksPanel->raise();
+    m_linksPanel->activateWindow();
+    m_linksPanel->lstLinks()->setFocus();
+}
+
+void WindowRegistry::closePanel()
+{
+    if (m_linksPanel)
+        m_linksPanel->close();
+}

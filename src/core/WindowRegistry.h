@@ -1,6 +1,8 @@
 #pragma once
 
 #include "browserone/BrowserWindowList.h"
+#include "browserone/LinksPanelHost.h"
+#include "browserone/frmWBOLinks.h"
 #include "browserone/frmWBOne.h"
 #include "navigator/NavigatorHost.h"
 #include "navigator/frmGeoCities.h"
@@ -14,7 +16,7 @@ class QWebEnginePage;
 
 // The open windows of the program, each made on first use, through which
 // the windows reach each other; and the ordered list of its browser windows.
-class WindowRegistry : public QObject
+class WindowRegistry : public QObject, public LinksPanelHost
 {
     Q_OBJECT
 public:
@@ -43,9 +45,19 @@ public:
     int treeWidthTwips() const { return 0; }
     void unloadLinksPanel();
 
+    // The saved-links panel of Browser One, made on first use.
+    frmWBOLinks* linksPanel() const { return m_linksPanel; }
+    QRect screenTwips() const override;
+    QRect panelTwips() const override;
+    void placePanel(const QString& left, const QString& top, const QString& height,
+                    const QString& width) override;
+    void showPanel() override;
+    void closePanel() override;
+
 private:
     AppContext& m_ctx;
     QPointer<frmGeoCities> m_main;
     QPointer<frmWBOne> m_browserOne;
+    QPointer<frmWBOLinks> m_linksPanel;
     BrowserWindowList m_browsers;
 };

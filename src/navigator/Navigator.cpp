@@ -22,9 +22,11 @@ QString flagText(bool flag) { return flag ? QStringLiteral("1") : QStringLiteral
 } // namespace
 
 Navigator::Navigator(AppContext& ctx, NavigatorHost& host)
-    : m_ctx(ctx), m_host(host), m_composer(ctx.state, m_c, *this), m_wander(ctx, *this)
+    : m_ctx(ctx), m_host(host), m_composer(ctx.state, m_c, *this), m_wander(ctx, *this),
+      m_saved(ctx, m_c, m_composer, *this, host)
 {
     connectEvents();
+    connect(this, &Navigator::savedLinksReload, &m_saved, &SavedLinks::LoadSavedLinks);
 }
 
 void Navigator::connectEvents()
@@ -208,10 +210,7 @@ void Navigator::GoBack()
 
 void Navigator::LeaveSavedView()
 {
-    SavedViewActive = false;
-    m_c.cmbSavedLinks.setText(QString(""));
-    m_c.cmdSavedLinks0.setText(QStringLiteral("Save"));
-    m_c.cmdSavedLinks1.setVisible(false);
+    m_saved.LeaveSavedView();
 }
 
 void Navigator::StopAutoModes()

@@ -4,6 +4,7 @@
 #include "ComposerHooks.h"
 #include "NavigatorControls.h"
 #include "NavigatorHost.h"
+#include "SavedLinks.h"
 #include "Wander.h"
 
 #include <QObject>
@@ -25,6 +26,7 @@ public:
     AddressComposer& composer() { return m_composer; }
     AppContext& context() { return m_ctx; }
     Wander& wander() { return m_wander; }
+    SavedLinks& savedLinks() { return m_saved; }
     NavigatorHost& host() { return m_host; }
 
     // The window's load: its place and the digit lists. Throws when a
@@ -69,8 +71,6 @@ public:
     void GeoChatClick();
     void PictureClick();
 
-    bool SavedViewActive = false;
-
     // The clamp of a stored main window place: negative becomes 0, and
     // 4260 by 2850 twips of the window stay on the screen.
     static QPoint ClampMainPlace(int left, int top, const QRect& screen);
@@ -93,4 +93,5 @@ private:
     NavigatorControls m_c;
     AddressComposer m_composer;
     Wander m_wander;
+    SavedLinks m_saved;
 };

@@ -42,6 +42,9 @@ public:
     virtual bool showWindow(ProgramWindow window) = 0;
     virtual void unloadWindow(ProgramWindow window) = 0;
 
+    // Shows frmWBONote, the note of a link to save, and waits for it.
+    virtual void showNoteDialog() = 0;
+
     // Closes the window and ends the program.
     virtual void endProgram() = 0;
 };

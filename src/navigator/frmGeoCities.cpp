@@ -1,10 +1,12 @@
 #include "frmGeoCities.h"
 
 #include "NeighborhoodPictures.h"
+#include "browserone/WebBrowserControl.h"
 #include "core/AppContext.h"
 #include "core/ControlBinder.h"
-#include "core/WindowRegistry.h"
 #include "core/WindowPlace.h"
+#include "core/WindowRegistry.h"
+#include "frmWBONote.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -273,6 +275,16 @@ void frmGeoCities::browserGoBack() { m_windows.browserGoBack(); }
 void frmGeoCities::toggleBrowserOneOnTop() { m_windows.toggleBrowserOneOnTop(); }
 bool frmGeoCities::showWindow(ProgramWindow window) { return m_windows.show(window); }
 void frmGeoCities::unloadWindow(ProgramWindow window) { m_windows.unload(window); }
+
+void frmGeoCities::showNoteDialog()
+{
+    auto title = [this] {
+        frmWBOne* browser = m_windows.browserOne();
+        return browser ? browser->control().LocationName() : QString();
+    };
+    frmWBONote note(m_ctx, m_nav.savedLinks(), title, this);
+    note.exec();
+}
 
 void frmGeoCities::endProgram()
 {

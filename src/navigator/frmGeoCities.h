@@ -38,6 +38,7 @@ public:
     void toggleBrowserOneOnTop() override;
     bool showWindow(ProgramWindow window) override;
     void unloadWindow(ProgramWindow window) override;
+    void showNoteDialog() override;
     void endProgram() override;
 
 protected:

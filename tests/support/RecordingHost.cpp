@@ -32,6 +32,13 @@ void RecordingHost::toggleBrowserOneOnTop()
     calls << "toggle BrowserOne ontop";
 }
 
+void RecordingHost::showNoteDialog()
+{
+    calls << "show note";
+    if (noteDialog)
+        noteDialog();
+}
+
 bool RecordingHost::showWindow(ProgramWindow window)
 {
     calls << "show " + nameOf(window);

@@ -3,6 +3,7 @@
 #include "navigator/NavigatorHost.h"
 
 #include <QStringList>
+#include <functional>
 
 struct SharedState;
 
@@ -18,6 +19,8 @@ public:
     QStringList calls;
     // Windows this host has; showWindow of others returns false.
     QList<ProgramWindow> available;
+    // Plays the note dialog while it is shown, if set.
+    std::function<void()> noteDialog;
 
     QStringList navigated() const;
 
@@ -32,6 +35,7 @@ public:
     void toggleBrowserOneOnTop() override;
     bool showWindow(ProgramWindow window) override;
     void unloadWindow(ProgramWindow window) override;
+    void showNoteDialog() override;
     void endProgram() override { calls << "end"; }
 
     static QString nameOf(ProgramWindow window);

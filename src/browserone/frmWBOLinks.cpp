@@ -1,0 +1,75 @@
+#include "frmWBOLinks.h"
+
+#include "LinksPanel.h"
+#include "core/ControlBinder.h"
+#include "core/WindowPlace.h"
+#include "navigator/SavedLinks.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QListWidget>
+#include <QScreen>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace {
+QRect availableScreen()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+}
+
+QRect toTwips(const QRect& r)
+{
+    return QRect(pixelsToTwips(r.left()), pixelsToTwips(r.top()), pixelsToTwips(r.width()),
+                 pixelsToTwips(r.height()));
+}
+} // namespace
+
+frmWBOLinks::frmWBOLinks(SavedLinks& links, LinksPanel& rules, QWidget* parent)
+    : QWidget(parent, Qt::Tool), m_rules(&rules)
+{
+    setObjectName(QStringLiteral("frmWBOLinks"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    ControlBinder::bindCaption(links.panelCaption, this);
+    // The list fills the window, which is never smaller than 5000 by 3300.
+    setMinimumSize(twipsToPixels(WindowPlace::MinWidth), twipsToPixels(WindowPlace::MinHeight));
+    resize(minimumSize());
+    m_list = new QListWidget(this);
+    ControlBinder::bind(links.lstLinks, m_list);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_list);
+
+    const QRect screen = availableScreen();
+    const QRect kept = LinksPanel::KeepOnScreen(toTwips(QRect(pos() - screen.topLeft(), size())),
+                                                toTwips(QRect(QPoint(), screen.size())));
+    move(screen.topLeft() + QPoint(twipsToPixels(kept.left()), twipsToPixels(kept.top())));
+}
+
+void frmWBOLinks::closeEvent(QCloseEvent* event)
+{
+    if (m_rules)
+        m_rules->QueryUnload();
+    QWidget::closeEvent(event);
+}
+
+void frmWBOLinks::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && (windowState() & Qt::WindowMaximized))
+        QTimer::singleShot(0, this, &frmWBOLinks::leaveMaximised);
+}
+
+// Maximised, the panel takes the screen's height less room for the task
+// bar, and keeps its width.
+void frmWBOLinks::leaveMaximised()
+{
+    if (!(windowState() & Qt::WindowMaximized))
+        return;
+    setWindowState(windowState() & ~Qt::WindowMaximized);
+    const QRect screen = availableScreen();
+    move(x(), screen.top());
+    resize(width(), screen.height() - twipsToPixels(WindowPlace::TaskBarRoom));
+}

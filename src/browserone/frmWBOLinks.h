@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+class LinksPanel;
+class QListWidget;
+class SavedLinks;
+
+// The saved-links panel: a small tool window beside Browser One with the
+// notes of the region's saved links. Its rules live in LinksPanel, its
+// list and caption in SavedLinks.
+class frmWBOLinks : public QWidget
+{
+    Q_OBJECT
+public:
+    frmWBOLinks(SavedLinks& links, LinksPanel& rules, QWidget* parent);
+
+    QListWidget* lstLinks() const { return m_list; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void leaveMaximised();
+
+    QPointer<LinksPanel> m_rules;
+    QListWidget* m_list = nullptr;
+};
