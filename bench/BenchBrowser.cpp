@@ -120,22 +120,51 @@ int main(int argc, char* argv[])
     const int start = pagesServed(server);
     nav.controls().mnuAutoNav.click();
     clock.restart();
-    qint64 baseSelf = 0, baseAll = 0;
-    std::printf("  AutoNav walk of %d pages, 10 ms wait:\n", walk);
-    for (int mark : {50, walk / 4, walk / 2, 3 * walk / 4, walk}) {
+    // The engine's page process grows and shrinks with its garbage
+    // collection, so memory is sampled every ten pages and compared as means
+    // over a hundred pages: the first hundred after the first fifty, and the
+    // last hundred.
+    struct Sample
+    {
+        int page;
+        qint64 self;
+        qint64 all;
+    };
+    QVector<Sample> samples;
+    for (int mark = 10; mark <= walk; mark += 10) {
         if (!waitFor([&] { return pagesServed(server) - start >= mark; }, 600000))
             return 4;
-        const qint64 self = ProcessMemory::selfKb();
-        const qint64 all = ProcessMemory::withChildrenKb();
-        if (mark == 50) {
-            baseSelf = self;
-            baseAll = all;
-        }
-        std::printf("    after %4d pages (%6.1f s): process %.1f MB (%+.1f%%), with engine "
-                    "helpers %.1f MB (%+.1f%%)\n",
-                    mark, clock.elapsed() / 1000.0, mb(self), 100.0 * (self - baseSelf) / baseSelf,
-                    mb(all), 100.0 * (all - baseAll) / baseAll);
+        samples.append({mark, ProcessMemory::selfKb(), ProcessMemory::withChildrenKb()});
     }
+    const double seconds = clock.elapsed() / 1000.0;
     nav.StopAutoModes();
+    auto mean = [&](int from, int to, bool all) {
+        double sum = 0;
+        int n = 0;
+        for (const Sample& x : samples) {
+            if (x.page > from && x.page <= to) {
+                sum += all ? x.all : x.self;
+                ++n;
+            }
+        }
+        return n ? sum / n : 0.0;
+    };
+    auto peak = [&](bool all) {
+        qint64 top = 0;
+        for (const Sample& x : samples)
+            top = std::max(top, all ? x.all : x.self);
+        return top;
+    };
+    const double firstSelf = mean(50, 150, false), lastSelf = mean(walk - 100, walk, false);
+    const double firstAll = mean(50, 150, true), lastAll = mean(walk - 100, walk, true);
+    std::printf("  AutoNav walk of %d pages, 10 ms wait, in %.1f s:\n", walk, seconds);
+    std::printf("    this process:       pages 51-150 %.1f MB, last 100 %.1f MB (%+.1f%%),"
+                " peak %.1f MB\n",
+                mb(firstSelf), mb(lastSelf), 100.0 * (lastSelf - firstSelf) / firstSelf,
+                mb(peak(false)));
+    std::printf("    with engine helpers: pages 51-150 %.1f MB, last 100 %.1f MB (%+.1f%%),"
+                " peak %.1f MB\n",
+                mb(firstAll), mb(lastAll), 100.0 * (lastAll - firstAll) / firstAll,
+                mb(peak(true)));
     return 0;
 }
