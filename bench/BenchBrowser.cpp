@@ -32,11 +32,15 @@ LocalWebServer::Reply page(const QString& url)
 
 int pagesServed(const LocalWebServer& server)
 {
-    return static_cast<int>(std::count_if(server.requested.begin(), server.requested.end(),
-                                          [](const QString& u) { return u.contains("geocities"); }));
+    return static_cast<int>(
+        std::count_if(server.requested.begin(), server.requested.end(),
+                      [](const QString& u) { return u.contains("geocities"); }));
 }
 
-double mb(qint64 kb) { return kb / 1024.0; }
+double mb(qint64 kb)
+{
+    return kb / 1024.0;
+}
 
 // Waits in an event loop, as the program does: the engine's own work runs
 // on this thread's loop, and a busy poll would starve it.
@@ -83,9 +87,8 @@ int main(int argc, char* argv[])
 
     if (!waitFor([&] { return completed("1000"); }, 60000)) {
         std::fprintf(stderr, "first page did not complete: %s\n",
-                     windows.browserOne()
-                         ? qPrintable(windows.browserOne()->rules().form.text())
-                         : "no window");
+                     windows.browserOne() ? qPrintable(windows.browserOne()->rules().form.text())
+                                          : "no window");
         return 2;
     }
     const double firstMs = clock.nsecsElapsed() / 1e6;
@@ -164,7 +167,6 @@ int main(int argc, char* argv[])
                 mb(peak(false)));
     std::printf("    with engine helpers: pages 51-150 %.1f MB, last 100 %.1f MB (%+.1f%%),"
                 " peak %.1f MB\n",
-                mb(firstAll), mb(lastAll), 100.0 * (lastAll - firstAll) / firstAll,
-                mb(peak(true)));
+                mb(firstAll), mb(lastAll), 100.0 * (lastAll - firstAll) / firstAll, mb(peak(true)));
     return 0;
 }

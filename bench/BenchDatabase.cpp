@@ -33,7 +33,7 @@ int main(int argc, char* argv[])
     std::printf("database (%d rounds)\n", rounds);
     std::printf("  create and seed GeoData.db  median %6.1f ms, worst %6.1f ms\n",
                 create[rounds / 2], create.last());
-    std::printf("  read the USA catalogue      median %6.1f ms, worst %6.1f ms\n",
-                load[rounds / 2], load.last());
+    std::printf("  read the USA catalogue      median %6.1f ms, worst %6.1f ms\n", load[rounds / 2],
+                load.last());
     return 0;
 }

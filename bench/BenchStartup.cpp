@@ -80,8 +80,8 @@ int driver(int argc, char* argv[])
     for (int i = 0; i < runs; ++i) {
         QTemporaryDir home;
         QDir().mkpath(home.path() + "/runtime");
-        QFile::setPermissions(home.path() + "/runtime", QFile::ReadOwner | QFile::WriteOwner |
-                                                            QFile::ExeOwner);
+        QFile::setPermissions(home.path() + "/runtime",
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         first << timedRun("vorlan", home.path());
         later << timedRun("vorlan", home.path());
         bare << timedRun("bare", home.path());

@@ -46,6 +46,12 @@ qint64 treeKb(qint64 pid)
 } // namespace
 
 namespace ProcessMemory {
-qint64 selfKb() { return rssKb(getpid()); }
-qint64 withChildrenKb() { return treeKb(getpid()); }
+qint64 selfKb()
+{
+    return rssKb(getpid());
+}
+qint64 withChildrenKb()
+{
+    return treeKb(getpid());
+}
 } // namespace ProcessMemory

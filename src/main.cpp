@@ -1,3 +1,6 @@
 #include "core/Application.h"
 
-int main(int argc, char* argv[]) { return RunVorlan(argc, argv); }
+int main(int argc, char* argv[])
+{
+    return RunVorlan(argc, argv);
+}

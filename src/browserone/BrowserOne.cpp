@@ -10,7 +10,8 @@
 #include <exception>
 
 namespace {
-enum MainCommand {
+enum MainCommand
+{
     GoBack = 2,
     Next = 3,
     Quit = 7,
@@ -239,7 +240,10 @@ void BrowserOne::AddressBarKey(int key)
     }
 }
 
-void BrowserOne::AddressBarClick() { m_nav.frmGeoCitiesCalls(StopWalks); }
+void BrowserOne::AddressBarClick()
+{
+    m_nav.frmGeoCitiesCalls(StopWalks);
+}
 
 void BrowserOne::WindowKey(int key)
 {
@@ -263,8 +267,8 @@ void BrowserOne::TopClick()
 
 QString BrowserOne::SearchHost(int index, bool japan)
 {
-    static const char* const hosts[] = {"altavista.com", "hotbot.com",   "switchboard.com",
-                                        "lycos.com",     "excite.com",   "infoseek.com",
+    static const char* const hosts[] = {"altavista.com", "hotbot.com", "switchboard.com",
+                                        "lycos.com",     "excite.com", "infoseek.com",
                                         "yahoo.com"};
     if (index == 6 && japan)
         return QStringLiteral("yahoo.co.jp");
@@ -284,10 +288,17 @@ void BrowserOne::frmWBOCalls(int command)
 {
     try {
         switch (command) {
-        case 1: TopClick(); break;
-        case 2: emit savedClicked(); break;
-        case 3: emit resizeRequested(); break;
-        default: break;
+        case 1:
+            TopClick();
+            break;
+        case 2:
+            emit savedClicked();
+            break;
+        case 3:
+            emit resizeRequested();
+            break;
+        default:
+            break;
         }
     } catch (const std::exception&) {
     }
@@ -305,7 +316,10 @@ void BrowserOne::StopClick()
     m_browser.Stop();
 }
 
-void BrowserOne::NextClick() { m_nav.frmGeoCitiesCalls(Next); }
+void BrowserOne::NextClick()
+{
+    m_nav.frmGeoCitiesCalls(Next);
+}
 
 void BrowserOne::BackClick()
 {
@@ -313,9 +327,18 @@ void BrowserOne::BackClick()
     m_nav.frmGeoCitiesCalls(GoBack);
 }
 
-void BrowserOne::AutoNavClick() { m_nav.frmGeoCitiesCalls(AutoNav); }
-void BrowserOne::RandNavClick() { m_nav.frmGeoCitiesCalls(RandNav); }
-void BrowserOne::ExitClick() { m_nav.frmGeoCitiesCalls(Quit); }
+void BrowserOne::AutoNavClick()
+{
+    m_nav.frmGeoCitiesCalls(AutoNav);
+}
+void BrowserOne::RandNavClick()
+{
+    m_nav.frmGeoCitiesCalls(RandNav);
+}
+void BrowserOne::ExitClick()
+{
+    m_nav.frmGeoCitiesCalls(Quit);
+}
 
 void BrowserOne::showMode()
 {

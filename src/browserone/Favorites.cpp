@@ -5,11 +5,12 @@
 #include <QSaveFile>
 
 namespace {
-const char* const Head = "<!DOCTYPE NETSCAPE-Bookmark-file-1>\r\n"
-                         "<META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=UTF-8\">\r\n"
-                         "<TITLE>Bookmarks</TITLE>\r\n"
-                         "<H1>Bookmarks</H1>\r\n"
-                         "<DL><p>\r\n";
+const char* const Head =
+    "<!DOCTYPE NETSCAPE-Bookmark-file-1>\r\n"
+    "<META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=UTF-8\">\r\n"
+    "<TITLE>Bookmarks</TITLE>\r\n"
+    "<H1>Bookmarks</H1>\r\n"
+    "<DL><p>\r\n";
 const char* const Tail = "</DL><p>\r\n";
 } // namespace
 

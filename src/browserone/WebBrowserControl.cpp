@@ -44,26 +44,33 @@ QUrl WebBrowserControl::UrlOf(const QString& text)
     return QUrl::fromUserInput(text);
 }
 
-void WebBrowserControl::Navigate(const QString& url) { m_view->load(UrlOf(url)); }
+void WebBrowserControl::Navigate(const QString& url)
+{
+    m_view->load(UrlOf(url));
+}
 
-void WebBrowserControl::Stop() { m_view->stop(); }
+void WebBrowserControl::Stop()
+{
+    m_view->stop();
+}
 
-void WebBrowserControl::GoBack() { m_view->back(); }
+void WebBrowserControl::GoBack()
+{
+    m_view->back();
+}
 
 QString WebBrowserControl::LocationURL() const
 {
     const QUrl url = m_page->url();
-    return url.isEmpty() || url == QUrl(QStringLiteral("about:blank")) ? QString()
-                                                                         : url.toString();
+    return url.isEmpty() || url == QUrl(QStringLiteral("about:blank")) ? QString() : url.toString();
 }
 
 QString WebBrowserControl::LocationName() const
 {
     // The engine names an untitled page by its address; the control does not.
     const QString title = m_page->title();
-    return title == m_page->url().toString() || title == m_page->url().toDisplayString()
-               ? QString()
-               : title;
+    return title == m_page->url().toString() || title == m_page->url().toDisplayString() ? QString()
+                                                                                         : title;
 }
 
 void WebBrowserControl::SaveAs(const QString& path)

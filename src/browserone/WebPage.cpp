@@ -7,7 +7,10 @@ QWebEnginePage* WebPage::createWindow(WebWindowType)
 
 void WebPage::javaScriptAlert(const QUrl&, const QString&) {}
 
-bool WebPage::javaScriptConfirm(const QUrl&, const QString&) { return false; }
+bool WebPage::javaScriptConfirm(const QUrl&, const QString&)
+{
+    return false;
+}
 
 bool WebPage::javaScriptPrompt(const QUrl&, const QString&, const QString&, QString*)
 {

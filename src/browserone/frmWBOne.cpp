@@ -135,7 +135,8 @@ void frmWBOne::hover(const QPoint& pos, bool overAddressBar)
         return;
     if (overAddressBar && m_rules->AddressBarHasFocus)
         return;
-    const QPoint inWindow = overAddressBar ? m_addressBar->mapTo(this, pos) : m_view->mapTo(this, pos);
+    const QPoint inWindow =
+        overAddressBar ? m_addressBar->mapTo(this, pos) : m_view->mapTo(this, pos);
     if (!BrowserOne::HoverMenuAt(inWindow.x(), inWindow.y(), m_view->width(), m_view->height(),
                                  overAddressBar))
         return;
@@ -154,13 +155,20 @@ bool frmWBOne::eventFilter(QObject* watched, QEvent* event)
             m_rules->AddressBarKey(enter ? 13 : key->key());
             return enter;
         }
-        case QEvent::MouseButtonPress: m_rules->AddressBarClick(); break;
-        case QEvent::FocusIn: m_rules->AddressBarHasFocus = true; break;
-        case QEvent::FocusOut: m_rules->AddressBarHasFocus = false; break;
+        case QEvent::MouseButtonPress:
+            m_rules->AddressBarClick();
+            break;
+        case QEvent::FocusIn:
+            m_rules->AddressBarHasFocus = true;
+            break;
+        case QEvent::FocusOut:
+            m_rules->AddressBarHasFocus = false;
+            break;
         case QEvent::MouseMove:
             hover(static_cast<QMouseEvent*>(event)->position().toPoint(), true);
             break;
-        default: break;
+        default:
+            break;
         }
     } else if (event->type() == QEvent::MouseMove && watched != this) {
         hover(static_cast<QMouseEvent*>(event)->position().toPoint(), false);
@@ -190,9 +198,15 @@ void frmWBOne::placeWindow(const QString& left, const QString& top, const QStrin
     PlaceWindow(this, m_ctx.state, left, top, height, width, false, m_windows.treeWidthTwips());
 }
 
-QRect frmWBOne::screenTwips() const { return toTwips(availableScreen()); }
+QRect frmWBOne::screenTwips() const
+{
+    return toTwips(availableScreen());
+}
 
-QRect frmWBOne::windowTwips() const { return toTwips(QRect(pos(), size())); }
+QRect frmWBOne::windowTwips() const
+{
+    return toTwips(QRect(pos(), size()));
+}
 
 void frmWBOne::setWindowOnTop(bool onTop)
 {
@@ -217,7 +231,8 @@ void frmWBOne::showWalkColours(Wander::Mode mode)
         bar.setColor(QPalette::Text, Qt::white);
         window.setColor(QPalette::Window, QColor(0, 0, 255));
         break;
-    case Wander::Mode::Off: break;
+    case Wander::Mode::Off:
+        break;
     }
     m_addressBar->setPalette(bar);
     m_addressBar->setReadOnly(mode != Wander::Mode::Off);
@@ -231,7 +246,10 @@ void frmWBOne::closeWindowsAfter(int keep)
         list.quit(i);
 }
 
-void frmWBOne::unloadLinksPanel() { m_windows.unloadLinksPanel(); }
+void frmWBOne::unloadLinksPanel()
+{
+    m_windows.unloadLinksPanel();
+}
 
 void frmWBOne::VorlanClick()
 {

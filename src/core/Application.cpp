@@ -30,9 +30,13 @@ int RunVorlan(int argc, char* argv[], std::function<void(QWidget*)> shown)
     WidgetPrompts prompts;
     SystemConnectionProbe probe;
     TextDatabase gdbMain(QStringLiteral("gdbMain"));
-    AppContext ctx{state, settings, prompts, probe, gdbMain,
-                   QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
-                       QLatin1Char('/')};
+    AppContext ctx{
+        state,
+        settings,
+        prompts,
+        probe,
+        gdbMain,
+        QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QLatin1Char('/')};
     WindowRegistry windows(ctx);
     MainStartupUi ui(ctx, windows, MainStartupUi::defaultLockPath());
     EntryProcedure entry(ctx, ui);

@@ -27,9 +27,9 @@ bool EntryProcedure::LooksLikeUrl(const QString& lowered)
 
 QStringList EntryProcedure::CorruptLines()
 {
-    return {QStringLiteral("Warning!!!\r"),        QStringLiteral("The database is corrupt"),
+    return {QStringLiteral("Warning!!!\r"),           QStringLiteral("The database is corrupt"),
             QStringLiteral("I'm about to Delete it"), QStringLiteral("& recreate it! All saved"),
-            QStringLiteral("data will be lost!"),   QStringLiteral("PROCEED?")};
+            QStringLiteral("data will be lost!"),     QStringLiteral("PROCEED?")};
 }
 
 bool EntryProcedure::run(const QString& commandLine)
@@ -110,8 +110,7 @@ void EntryProcedure::clearAttributes()
     for (const QString& path : {m_ctx.state.gstrGeoBckUp, m_ctx.state.gstrGeoData}) {
         if (QFileInfo::exists(path))
             QFile::setPermissions(path, QFile::permissions(path) | QFile::ReadOwner |
-                                            QFile::WriteOwner | QFile::ReadUser |
-                                            QFile::WriteUser);
+                                            QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
     }
 }
 
@@ -182,6 +181,7 @@ void EntryProcedure::settingsErrorRoute()
         m_ctx.settings.DeleteSetting(m_ctx.state.gstrAppName);
     } catch (const std::exception&) {
     }
-    m_ctx.prompts.msgBox(QStringLiteral("A settings error was encountered!\rYou will need to restart Vorlan!"));
+    m_ctx.prompts.msgBox(
+        QStringLiteral("A settings error was encountered!\rYou will need to restart Vorlan!"));
     m_ctx.gdbMain.close();
 }

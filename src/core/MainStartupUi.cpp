@@ -35,9 +35,15 @@ void MainStartupUi::showSplash(const QString& status)
     QCoreApplication::processEvents();
 }
 
-void MainStartupUi::unloadSplash() { m_splash.reset(); }
+void MainStartupUi::unloadSplash()
+{
+    m_splash.reset();
+}
 
-Navigator& MainStartupUi::loadMainWindow() { return m_windows.main()->navigator(); }
+Navigator& MainStartupUi::loadMainWindow()
+{
+    return m_windows.main()->navigator();
+}
 
 void MainStartupUi::showMainWindow()
 {

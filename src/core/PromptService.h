@@ -11,7 +11,8 @@ class PromptService
 public:
     // Styles and answers with the classic message box numbers, so that a
     // rule can be written with the flags it names (64, 36, ...).
-    enum Style {
+    enum Style
+    {
         OkOnly = 0,
         OkCancel = 1,
         YesNoCancel = 3,
@@ -21,11 +22,18 @@ public:
         Exclamation = 48,
         Information = 64
     };
-    enum Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+    enum Answer
+    {
+        Ok = 1,
+        Cancel = 2,
+        Yes = 6,
+        No = 7
+    };
 
     virtual ~PromptService() = default;
 
-    virtual int msgBox(const QString& text, int style = OkOnly, const QString& title = QString()) = 0;
+    virtual int msgBox(const QString& text, int style = OkOnly,
+                       const QString& title = QString()) = 0;
 
     // The text typed, or a null text when cancelled.
     virtual QString inputBox(const QString& prompt, const QString& title,

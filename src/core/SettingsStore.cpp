@@ -28,7 +28,8 @@ bool looksLikeIni(const QByteArray& bytes)
     const auto lines = text.split(QLatin1Char('\n'));
     for (const QString& raw : lines) {
         const QString line = raw.trimmed();
-        if (line.isEmpty() || line.startsWith(QLatin1Char(';')) || line.startsWith(QLatin1Char('#')))
+        if (line.isEmpty() || line.startsWith(QLatin1Char(';')) ||
+            line.startsWith(QLatin1Char('#')))
             continue;
         if (line.startsWith(QLatin1Char('[')) ? !line.endsWith(QLatin1Char(']'))
                                               : !line.contains(QLatin1Char('=')))

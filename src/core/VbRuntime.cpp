@@ -63,8 +63,14 @@ qint32 CLng(double value)
     return static_cast<qint32>(r);
 }
 
-qint16 CInt(const QString& text) { return CInt(numericValue(text)); }
-qint32 CLng(const QString& text) { return CLng(numericValue(text)); }
+qint16 CInt(const QString& text)
+{
+    return CInt(numericValue(text));
+}
+qint32 CLng(const QString& text)
+{
+    return CLng(numericValue(text));
+}
 
 QString Str(double value)
 {

@@ -10,7 +10,13 @@
 class VbError : public std::runtime_error
 {
 public:
-    enum Number { Overflow = 6, TypeMismatch = 13, InvalidPropertyValue = 380, FileNotFound = 53 };
+    enum Number
+    {
+        Overflow = 6,
+        TypeMismatch = 13,
+        InvalidPropertyValue = 380,
+        FileNotFound = 53
+    };
     VbError(int number, const QString& what);
     int number() const { return m_number; }
 

@@ -21,7 +21,8 @@ QString displayText(QString text)
 // "*.*" would hide the files without a dot in their names here.
 QString dialogFilters(const QStringList& filters)
 {
-    return filters.join(QStringLiteral(";;")).replace(QStringLiteral("(*.*)"), QStringLiteral("(*)"));
+    return filters.join(QStringLiteral(";;"))
+        .replace(QStringLiteral("(*.*)"), QStringLiteral("(*)"));
 }
 
 QString windowTitle(const QString& title)
@@ -30,7 +31,10 @@ QString windowTitle(const QString& title)
 }
 } // namespace
 
-QWidget* WidgetPrompts::parent() { return QApplication::activeWindow(); }
+QWidget* WidgetPrompts::parent()
+{
+    return QApplication::activeWindow();
+}
 
 int WidgetPrompts::msgBox(const QString& text, int style, const QString& title)
 {
@@ -38,25 +42,44 @@ int WidgetPrompts::msgBox(const QString& text, int style, const QString& title)
     box.setWindowTitle(windowTitle(title));
     box.setText(displayText(text));
     switch (style & 0x70) {
-    case Critical: box.setIcon(QMessageBox::Critical); break;
-    case Question: box.setIcon(QMessageBox::Question); break;
-    case Exclamation: box.setIcon(QMessageBox::Warning); break;
-    case Information: box.setIcon(QMessageBox::Information); break;
-    default: break;
+    case Critical:
+        box.setIcon(QMessageBox::Critical);
+        break;
+    case Question:
+        box.setIcon(QMessageBox::Question);
+        break;
+    case Exclamation:
+        box.setIcon(QMessageBox::Warning);
+        break;
+    case Information:
+        box.setIcon(QMessageBox::Information);
+        break;
+    default:
+        break;
     }
     switch (style & 7) {
-    case OkCancel: box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel); break;
+    case OkCancel:
+        box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+        break;
     case YesNoCancel:
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         break;
-    case YesNo: box.setStandardButtons(QMessageBox::Yes | QMessageBox::No); break;
-    default: box.setStandardButtons(QMessageBox::Ok); break;
+    case YesNo:
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        break;
+    default:
+        box.setStandardButtons(QMessageBox::Ok);
+        break;
     }
     switch (box.exec()) {
-    case QMessageBox::Yes: return Yes;
-    case QMessageBox::No: return No;
-    case QMessageBox::Cancel: return Cancel;
-    default: return Ok;
+    case QMessageBox::Yes:
+        return Yes;
+    case QMessageBox::No:
+        return No;
+    case QMessageBox::Cancel:
+        return Cancel;
+    default:
+        return Ok;
     }
 }
 

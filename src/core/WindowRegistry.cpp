@@ -28,9 +28,15 @@ frmGeoCities* WindowRegistry::main(bool create)
     return m_main;
 }
 
-bool WindowRegistry::has(const QString&) const { return false; }
+bool WindowRegistry::has(const QString&) const
+{
+    return false;
+}
 
-bool WindowRegistry::show(ProgramWindow) { return false; }
+bool WindowRegistry::show(ProgramWindow)
+{
+    return false;
+}
 
 void WindowRegistry::unload(ProgramWindow window)
 {

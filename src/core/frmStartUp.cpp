@@ -53,11 +53,15 @@ frmStartUp::frmStartUp(SharedState& state)
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (screen) {
         const QRect area = screen->geometry();
-        move(area.left() + (area.width() - width()) / 2, area.top() + (area.height() - height()) / 2);
+        move(area.left() + (area.width() - width()) / 2,
+             area.top() + (area.height() - height()) / 2);
     }
 }
 
-frmStartUp::~frmStartUp() { m_state.gblnStartUpShown = false; }
+frmStartUp::~frmStartUp()
+{
+    m_state.gblnStartUpShown = false;
+}
 
 void frmStartUp::showEvent(QShowEvent* event)
 {

@@ -18,7 +18,10 @@ const char* const NoConnection = "No internet connection!";
 constexpr int VisibleWidthTwips = 4260;
 constexpr int VisibleHeightTwips = 2850;
 
-QString flagText(bool flag) { return flag ? QStringLiteral("1") : QStringLiteral("0"); }
+QString flagText(bool flag)
+{
+    return flag ? QStringLiteral("1") : QStringLiteral("0");
+}
 } // namespace
 
 Navigator::Navigator(AppContext& ctx, NavigatorHost& host)
@@ -221,7 +224,10 @@ void Navigator::StopAutoModes()
         AutoNavClick();
 }
 
-bool Navigator::RandNavRunning() const { return m_c.mnuRandNav.isChecked(); }
+bool Navigator::RandNavRunning() const
+{
+    return m_c.mnuRandNav.isChecked();
+}
 
 void Navigator::JapanClick()
 {
@@ -331,16 +337,17 @@ void Navigator::GeoCitiesClick()
 void Navigator::GeoSearchClick()
 {
     StopAutoModes();
-    NavigateSomeWhereElse(m_ctx.GetSetting(
-        Sect::AdvOpt, Key::SearchURL,
-        QLatin1String(Endpoint::UsaSiteUrl) + QStringLiteral("/cgi-bin/search/geosearch")));
+    NavigateSomeWhereElse(m_ctx.GetSetting(Sect::AdvOpt, Key::SearchURL,
+                                           QLatin1String(Endpoint::UsaSiteUrl) +
+                                               QStringLiteral("/cgi-bin/search/geosearch")));
 }
 
 void Navigator::GeoChatClick()
 {
     StopAutoModes();
-    NavigateSomeWhereElse(m_ctx.GetSetting(
-        Sect::AdvOpt, Key::ChatURL, QLatin1String(Endpoint::UsaSiteUrl) + QStringLiteral("/chat/")));
+    NavigateSomeWhereElse(
+        m_ctx.GetSetting(Sect::AdvOpt, Key::ChatURL,
+                         QLatin1String(Endpoint::UsaSiteUrl) + QStringLiteral("/chat/")));
 }
 
 void Navigator::PictureClick()
@@ -378,25 +385,62 @@ void Navigator::frmGeoCitiesCalls(int code)
 {
     try {
         switch (code) {
-        case 1: m_c.cmbNeighborhood.click(); break;
-        case 2: m_c.cmdGoBack.click(); break;
-        case 3: m_c.cmdNext.click(); break;
-        case 4: m_c.cmdOpenSite.click(); break;
-        case 5: m_host.ShowBrowserOne(); break;
-        case 6: ShowProgramWindow(ProgramWindow::BrowserTwo); break;
-        case 7: m_c.cmdQuite.click(); break;
-        case 8: m_c.mnuRandNav.click(); break;
-        case 9: m_c.mnuAutoNav.click(); break;
-        case 10: SaveMainSettings(); break;
-        case 11: m_c.mnuGeoTree.click(); break;
-        case 12: m_c.mnuOnTop.click(); break;
-        case 13: m_composer.ValidateSelection(); break;
-        case 14: LoadMainSettings(); break;
-        case 15: RandNavStep(); break;
-        case 16: m_composer.ComposeAddress(); break;
-        case 17: StopAutoModes(); break;
-        case 18: m_c.cmbSavedLinks.click(); break;
-        default: break;
+        case 1:
+            m_c.cmbNeighborhood.click();
+            break;
+        case 2:
+            m_c.cmdGoBack.click();
+            break;
+        case 3:
+            m_c.cmdNext.click();
+            break;
+        case 4:
+            m_c.cmdOpenSite.click();
+            break;
+        case 5:
+            m_host.ShowBrowserOne();
+            break;
+        case 6:
+            ShowProgramWindow(ProgramWindow::BrowserTwo);
+            break;
+        case 7:
+            m_c.cmdQuite.click();
+            break;
+        case 8:
+            m_c.mnuRandNav.click();
+            break;
+        case 9:
+            m_c.mnuAutoNav.click();
+            break;
+        case 10:
+            SaveMainSettings();
+            break;
+        case 11:
+            m_c.mnuGeoTree.click();
+            break;
+        case 12:
+            m_c.mnuOnTop.click();
+            break;
+        case 13:
+            m_composer.ValidateSelection();
+            break;
+        case 14:
+            LoadMainSettings();
+            break;
+        case 15:
+            RandNavStep();
+            break;
+        case 16:
+            m_composer.ComposeAddress();
+            break;
+        case 17:
+            StopAutoModes();
+            break;
+        case 18:
+            m_c.cmbSavedLinks.click();
+            break;
+        default:
+            break;
         }
     } catch (const std::exception&) {
         // Other windows press these buttons blind: a failure stays here.
@@ -409,6 +453,15 @@ void Navigator::browserStop()
         m_host.browserStop();
 }
 
-void Navigator::AutoNavClick() { m_wander.AutoNavClick(); }
-void Navigator::RandNavClick() { m_wander.RandNavClick(); }
-void Navigator::RandNavStep() { m_wander.RandNavStep(); }
+void Navigator::AutoNavClick()
+{
+    m_wander.AutoNavClick();
+}
+void Navigator::RandNavClick()
+{
+    m_wander.RandNavClick();
+}
+void Navigator::RandNavStep()
+{
+    m_wander.RandNavStep();
+}

@@ -4,18 +4,19 @@
 #include <QString>
 
 // The other windows of the program, as the Navigator's rules reach them.
-enum class ProgramWindow {
-    BrowserOne,  // frmWBOne
-    BrowserTwo,  // frmWBTwo
-    Cache,       // frmCache
-    Export,      // frmExport
-    GeoFtp,      // frmGeoFtp
-    Options,     // frmOpt
-    Script,      // frmVBScript
-    NetPics,     // frmNetPics
-    Inetget,     // frmInetget
-    About,       // frmAbout
-    GeoTree      // frmTreeView
+enum class ProgramWindow
+{
+    BrowserOne, // frmWBOne
+    BrowserTwo, // frmWBTwo
+    Cache,      // frmCache
+    Export,     // frmExport
+    GeoFtp,     // frmGeoFtp
+    Options,    // frmOpt
+    Script,     // frmVBScript
+    NetPics,    // frmNetPics
+    Inetget,    // frmInetget
+    About,      // frmAbout
+    GeoTree     // frmTreeView
 };
 
 // What the Navigator's rules ask of the screen and the other windows. The

@@ -13,7 +13,10 @@
 namespace {
 const char* const NoConnection = "No internet connection!";
 
-QString clockText() { return QTime::currentTime().toString(QStringLiteral("h:mm:ss AP")); }
+QString clockText()
+{
+    return QTime::currentTime().toString(QStringLiteral("h:mm:ss AP"));
+}
 
 // One value of the generator, reseeded from the given number, as the text
 // a single-precision value prints as. As with the classic runtime, a reseed

@@ -18,7 +18,12 @@ class Wander : public QObject
 {
     Q_OBJECT
 public:
-    enum class Mode { Off, AutoNav, RandNav };
+    enum class Mode
+    {
+        Off,
+        AutoNav,
+        RandNav
+    };
 
     Wander(AppContext& ctx, Navigator& navigator);
 

@@ -178,8 +178,8 @@ void frmGeoCities::buildMenus()
 
     QMenu* xtras = menuBar()->addMenu(tr("Xtras"));
     xtras->setObjectName(QStringLiteral("mnuXtras"));
-    connect(addEntry(xtras, "mnuBrowserTwo", tr("&Web Browser Two"), nullptr),
-            &QAction::triggered, this, show(ProgramWindow::BrowserTwo));
+    connect(addEntry(xtras, "mnuBrowserTwo", tr("&Web Browser Two"), nullptr), &QAction::triggered,
+            this, show(ProgramWindow::BrowserTwo));
     bound(xtras, c.mnuCache);
     connect(&c.mnuCache, &Control::clicked, this, show(ProgramWindow::Cache));
     connect(addEntry(xtras, "mnuScript", tr("Create a web Page"), nullptr), &QAction::triggered,
@@ -204,9 +204,9 @@ void frmGeoCities::buildMenus()
 
     // Entries whose windows this build does not have stay visible but idle.
     for (QAction* action : menuBar()->findChildren<QAction*>()) {
-        static const QStringList absent = {"mnuExport", "mnuPublish", "mnuBrowserTwo", "mnuCache",
-                                           "mnuScript", "mnuNetPic",  "mnuInetGet",    "mnuGeoTree",
-                                           "mnuOptions"};
+        static const QStringList absent = {"mnuExport",  "mnuPublish", "mnuBrowserTwo",
+                                           "mnuCache",   "mnuScript",  "mnuNetPic",
+                                           "mnuInetGet", "mnuGeoTree", "mnuOptions"};
         if (absent.contains(action->objectName()))
             action->setEnabled(m_windows.has(action->objectName()));
     }
@@ -268,13 +268,34 @@ void frmGeoCities::setWindowOnTop(bool onTop)
         show();
 }
 
-void frmGeoCities::ShowBrowserOne() { m_windows.ShowBrowserOne(); }
-void frmGeoCities::browserNavigate(const QString& url) { m_windows.browserNavigate(url); }
-void frmGeoCities::browserStop() { m_windows.browserStop(); }
-void frmGeoCities::browserGoBack() { m_windows.browserGoBack(); }
-void frmGeoCities::toggleBrowserOneOnTop() { m_windows.toggleBrowserOneOnTop(); }
-bool frmGeoCities::showWindow(ProgramWindow window) { return m_windows.show(window); }
-void frmGeoCities::unloadWindow(ProgramWindow window) { m_windows.unload(window); }
+void frmGeoCities::ShowBrowserOne()
+{
+    m_windows.ShowBrowserOne();
+}
+void frmGeoCities::browserNavigate(const QString& url)
+{
+    m_windows.browserNavigate(url);
+}
+void frmGeoCities::browserStop()
+{
+    m_windows.browserStop();
+}
+void frmGeoCities::browserGoBack()
+{
+    m_windows.browserGoBack();
+}
+void frmGeoCities::toggleBrowserOneOnTop()
+{
+    m_windows.toggleBrowserOneOnTop();
+}
+bool frmGeoCities::showWindow(ProgramWindow window)
+{
+    return m_windows.show(window);
+}
+void frmGeoCities::unloadWindow(ProgramWindow window)
+{
+    m_windows.unload(window);
+}
 
 void frmGeoCities::showNoteDialog()
 {

@@ -177,7 +177,8 @@ private slots:
         // The limit does not stop itself: it goes on cutting until a page completes.
         QTRY_VERIFY(r.host.navigated().size() >= opened + 2);
         QCOMPARE(r.host.navigated().at(opened), QString("http://www.geocities.com/Area51/2002/"));
-        QCOMPARE(r.host.navigated().at(opened + 1), QString("http://www.geocities.com/Area51/2003/"));
+        QCOMPARE(r.host.navigated().at(opened + 1),
+                 QString("http://www.geocities.com/Area51/2003/"));
         QVERIFY(r.browser.stops > stops);
         r.browser.progress(100, 100);
         QVERIFY(!r.one->tmrLimit.isActive());

@@ -21,9 +21,8 @@ LocalWebServer::Reply answer(const QString& url)
     const auto m = house.match(url);
     if (url.endsWith(QLatin1String("/popup/")))
         return {LocalWebServer::page(
-            "Opens a window",
-            "<script>window.open('http://www.geocities.com/popped/');</script>"
-            "<img src='http://www.geocities.com/slow.gif'>")};
+            "Opens a window", "<script>window.open('http://www.geocities.com/popped/');</script>"
+                              "<img src='http://www.geocities.com/slow.gif'>")};
     if (url.endsWith(QLatin1String("/slow.gif")))
         return {QByteArray(), 404, false, 400};
     if (m.hasMatch()) {

@@ -198,8 +198,9 @@ private slots:
         QCOMPARE(s.t.prompts.shown.size(), 1);
         const auto& asked = s.t.prompts.shown.first();
         QCOMPARE(asked.title, QString("Corrupt Database!"));
-        QCOMPARE(asked.text, QString("Warning!!!\r\rThe database is corrupt\rI'm about to Delete it\r"
-                                     "& recreate it! All saved\rdata will be lost!\rPROCEED?\r"));
+        QCOMPARE(asked.text,
+                 QString("Warning!!!\r\rThe database is corrupt\rI'm about to Delete it\r"
+                         "& recreate it! All saved\rdata will be lost!\rPROCEED?\r"));
         QCOMPARE(asked.style & 7, int(PromptService::YesNo));
         // No leaves the files as they are, and the same question comes back.
         QCOMPARE(readAll(s.data()), QByteArray("garbage"));
@@ -247,8 +248,9 @@ private slots:
         addMarkerLink(s.data());
         writeAll(s.t.settings.filePath("Vorlan 1.0"), QByteArray("\x01\x02\x00junk", 7));
         QVERIFY(!s.run());
-        QCOMPARE(s.t.prompts.messages(),
-                 QStringList{"A settings error was encountered!\rYou will need to restart Vorlan!"});
+        QCOMPARE(
+            s.t.prompts.messages(),
+            QStringList{"A settings error was encountered!\rYou will need to restart Vorlan!"});
         QVERIFY(!QFile::exists(s.t.settings.filePath("Vorlan 1.0")));
         QVERIFY(hasMarkerLink(s.data())); // the data stays
         // The next start is a first use again, on the same data.

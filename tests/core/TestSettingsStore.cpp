@@ -3,8 +3,8 @@
 #include "core/SettingsStore.h"
 
 #include <QFile>
-#include <sys/stat.h>
 #include <QtTest>
+#include <sys/stat.h>
 
 class TestSettingsStore : public QObject
 {
@@ -41,8 +41,10 @@ private slots:
             s.SaveSetting(app, Sect::AdvOpt, Key::OnTopSynch, "");
         }
         SettingsStore again(f.config());
-        QCOMPARE(again.GetSetting(app, Sect::AdvOpt, Key::DefaultSN), QString("This is a CooL Site!"));
-        QCOMPARE(again.GetSetting(app, Sect::Startup, Key::Path), QString("/some path/with = signs;/"));
+        QCOMPARE(again.GetSetting(app, Sect::AdvOpt, Key::DefaultSN),
+                 QString("This is a CooL Site!"));
+        QCOMPARE(again.GetSetting(app, Sect::Startup, Key::Path),
+                 QString("/some path/with = signs;/"));
         // A stored empty text is a value, not an absent key.
         QCOMPARE(again.GetSetting(app, Sect::AdvOpt, Key::OnTopSynch, "0"), QString(""));
     }

@@ -143,8 +143,8 @@ private slots:
                                           << "http://www.geocities.com/";
         QTest::newRow("prefix in capitals") << "HTTP://WWW.geocities.com/"
                                             << "HTTP://WWW.geocities.com/";
-        QTest::newRow("other URL forms get the prefix too")
-            << "http://example.org/" << "http://www.http://example.org/";
+        QTest::newRow("other URL forms get the prefix too") << "http://example.org/"
+                                                            << "http://www.http://example.org/";
     }
     void navigateTargets()
     {

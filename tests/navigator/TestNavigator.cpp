@@ -143,10 +143,12 @@ private slots:
         QTest::addColumn<QString>("left");
         QTest::addColumn<QString>("top");
         QTest::addColumn<QPoint>("place");
-        QTest::newRow("stored place") << "3000" << "1500" << QPoint(3000, 1500);
-        QTest::newRow("negative") << "-900" << "-15" << QPoint(0, 0);
-        QTest::newRow("off right and bottom") << "99999" << "99999"
-                                              << QPoint(15360 - 4260, 11520 - 2850);
+        QTest::newRow("stored place") << "3000"
+                                      << "1500" << QPoint(3000, 1500);
+        QTest::newRow("negative") << "-900"
+                                  << "-15" << QPoint(0, 0);
+        QTest::newRow("off right and bottom") << "99999"
+                                              << "99999" << QPoint(15360 - 4260, 11520 - 2850);
     }
     void theLoadClampKeepsTheWindowOnScreen()
     {
@@ -228,10 +230,11 @@ private slots:
         r.nav.GeoChatClick();
         r.t.ctx.SaveSetting("AdvOpt", "ChatURL", "chat.example.org/room");
         r.nav.GeoChatClick();
-        QCOMPARE(r.host.navigated(),
-                 (QStringList{"http://www.geocities.com/",
-                              "http://www.geocities.com/cgi-bin/search/geosearch",
-                              "http://www.geocities.com/chat/", "http://www.chat.example.org/room"}));
+        QCOMPARE(
+            r.host.navigated(),
+            (QStringList{"http://www.geocities.com/",
+                         "http://www.geocities.com/cgi-bin/search/geosearch",
+                         "http://www.geocities.com/chat/", "http://www.chat.example.org/room"}));
     }
 
     void callsPressTheButtonsAndIgnoreTheRest()

@@ -5,7 +5,10 @@
 
 namespace {
 // A clock that stands still: every draw is reseeded with the same time.
-QString frozenClock() { return QStringLiteral("9:15:32 PM"); }
+QString frozenClock()
+{
+    return QStringLiteral("9:15:32 PM");
+}
 
 void addMisc(NavigatorRig& r, const QString& table, const QStringList& names)
 {
@@ -19,8 +22,8 @@ void addMisc(NavigatorRig& r, const QString& table, const QStringList& names)
 // The Neighborhood and Suburb of a composed USA or Japan address.
 QStringList partsOf(const QString& url)
 {
-    static const QRegularExpression form(
-        QStringLiteral("^http://www\\.geocities\\.(?:com|co\\.jp)/([^/-]+)(?:[/-]([^/]+))?/(\\d{4})/$"));
+    static const QRegularExpression form(QStringLiteral(
+        "^http://www\\.geocities\\.(?:com|co\\.jp)/([^/-]+)(?:[/-]([^/]+))?/(\\d{4})/$"));
     const auto m = form.match(url);
     return m.hasMatch() ? QStringList{m.captured(1), m.captured(2), m.captured(3)} : QStringList();
 }

@@ -10,12 +10,16 @@ LocalWebServer::LocalWebServer(Handler handler, QObject* parent)
         while (QTcpSocket* socket = nextPendingConnection()) {
             connect(socket, &QTcpSocket::readyRead, this, [this, socket] { serve(socket); });
             connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-            connect(socket, &QObject::destroyed, this, [this, socket] { m_pending.remove(socket); });
+            connect(socket, &QObject::destroyed, this,
+                    [this, socket] { m_pending.remove(socket); });
         }
     });
 }
 
-bool LocalWebServer::start() { return listen(QHostAddress::LocalHost, 0); }
+bool LocalWebServer::start()
+{
+    return listen(QHostAddress::LocalHost, 0);
+}
 
 QString LocalWebServer::proxyAddress() const
 {
@@ -45,7 +49,8 @@ void LocalWebServer::serve(QTcpSocket* socket)
         url = QStringLiteral("http://127.0.0.1") + url;
     if (!url.endsWith(QLatin1String("/favicon.ico")))
         requested << url;
-    const Reply reply = url.endsWith(QLatin1String("/favicon.ico")) ? Reply{{}, 404} : m_handler(url);
+    const Reply reply =
+        url.endsWith(QLatin1String("/favicon.ico")) ? Reply{{}, 404} : m_handler(url);
     if (reply.delayMs > 0)
         QTimer::singleShot(reply.delayMs, socket, [this, socket, reply] { answer(socket, reply); });
     else

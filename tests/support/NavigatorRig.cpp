@@ -16,8 +16,14 @@ static void pick(ListControl& list, const QString& text)
     list.userSelect(index);
 }
 
-void NavigatorRig::pickNeighborhood(const QString& name) { pick(c.cmbNeighborhood, name); }
-void NavigatorRig::pickSuburb(const QString& name) { pick(c.cmbSuburb, name); }
+void NavigatorRig::pickNeighborhood(const QString& name)
+{
+    pick(c.cmbNeighborhood, name);
+}
+void NavigatorRig::pickSuburb(const QString& name)
+{
+    pick(c.cmbSuburb, name);
+}
 
 void NavigatorRig::pickDigits(const QString& prefix, const QString& suffix)
 {

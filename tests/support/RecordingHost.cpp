@@ -18,7 +18,10 @@ void RecordingHost::moveWindowTwips(int left, int top)
     calls << QStringLiteral("move %1 %2").arg(left).arg(top);
 }
 
-void RecordingHost::setWindowOnTop(bool onTop) { calls << (onTop ? "ontop" : "notontop"); }
+void RecordingHost::setWindowOnTop(bool onTop)
+{
+    calls << (onTop ? "ontop" : "notontop");
+}
 
 void RecordingHost::ShowBrowserOne()
 {
@@ -57,17 +60,28 @@ void RecordingHost::unloadWindow(ProgramWindow window)
 QString RecordingHost::nameOf(ProgramWindow window)
 {
     switch (window) {
-    case ProgramWindow::BrowserOne: return "BrowserOne";
-    case ProgramWindow::BrowserTwo: return "BrowserTwo";
-    case ProgramWindow::Cache: return "Cache";
-    case ProgramWindow::Export: return "Export";
-    case ProgramWindow::GeoFtp: return "GeoFtp";
-    case ProgramWindow::Options: return "Options";
-    case ProgramWindow::Script: return "Script";
-    case ProgramWindow::NetPics: return "NetPics";
-    case ProgramWindow::Inetget: return "Inetget";
-    case ProgramWindow::About: return "About";
-    case ProgramWindow::GeoTree: return "GeoTree";
+    case ProgramWindow::BrowserOne:
+        return "BrowserOne";
+    case ProgramWindow::BrowserTwo:
+        return "BrowserTwo";
+    case ProgramWindow::Cache:
+        return "Cache";
+    case ProgramWindow::Export:
+        return "Export";
+    case ProgramWindow::GeoFtp:
+        return "GeoFtp";
+    case ProgramWindow::Options:
+        return "Options";
+    case ProgramWindow::Script:
+        return "Script";
+    case ProgramWindow::NetPics:
+        return "NetPics";
+    case ProgramWindow::Inetget:
+        return "Inetget";
+    case ProgramWindow::About:
+        return "About";
+    case ProgramWindow::GeoTree:
+        return "GeoTree";
     }
     return QString();
 }

@@ -31,8 +31,8 @@ public:
                      const QString& defaultText) override;
     QString openFileName(const QString& title, const QString& startFolder,
                          const QStringList& filters, int selectedFilter) override;
-    QString saveFileName(const QString& title, const QString& startPath,
-                         const QStringList& filters, int selectedFilter) override;
+    QString saveFileName(const QString& title, const QString& startPath, const QStringList& filters,
+                         int selectedFilter) override;
     QString folderName(const QString& title, const QString& startFolder) override;
     void openExternally(const QString& urlOrPath) override { opened.append(urlOrPath); }
 
