@@ -7,6 +7,7 @@
 #include "browserone/WebBrowserControl.h"
 #include "browserone/WebPage.h"
 #include "browserone/frmWBOne.h"
+#include "frmAbout.h"
 #include "navigator/frmGeoCities.h"
 
 #include <QGuiApplication>
@@ -33,8 +34,13 @@ bool WindowRegistry::has(const QString&) const
     return false;
 }
 
-bool WindowRegistry::show(ProgramWindow)
+bool WindowRegistry::show(ProgramWindow window)
 {
+    if (window == ProgramWindow::About) {
+        frmAbout about(m_ctx.prompts, main(false));
+        about.exec();
+        return true;
+    }
     return false;
 }
 

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QDialog>
+
+class PromptService;
+
+// The About box: the program's name, version and purpose, and a button that
+// shows what the system is.
+class frmAbout : public QDialog
+{
+    Q_OBJECT
+public:
+    frmAbout(PromptService& prompts, QWidget* parent = nullptr);
+
+    // The system's description that the System Info button shows.
+    static QString SystemInfo();
+
+private:
+    PromptService& m_prompts;
+};

@@ -1,0 +1,154 @@
+#include "EngineEnvironment.h"
+#include "TestContext.h"
+#include "browserone/frmWBOne.h"
+#include "core/WindowRegistry.h"
+#include "navigator/frmGeoCities.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSlider>
+#include <QtTest>
+
+namespace {
+// The captions of a menu's entries, submenus as "caption>" and separators as "-".
+QStringList entries(const QMenu* menu)
+{
+    QStringList list;
+    for (QAction* a : menu->actions())
+        list << (a->isSeparator() ? QString("-") : a->text() + (a->menu() ? ">" : ""));
+    return list;
+}
+
+struct WindowRig
+{
+    TestContext t;
+    WindowRegistry windows{t.ctx};
+    frmGeoCities* w = nullptr;
+
+    WindowRig()
+    {
+        t.createAndOpenDatabase();
+        w = windows.main();
+        w->navigator().LoadCatalogue();
+    }
+    template <typename T> T* find(const QString& name)
+    {
+        T* found = w->findChild<T*>(name);
+        if (!found)
+            qWarning("no %s", qPrintable(name));
+        return found;
+    }
+    QMenu* menu(const QString& name) { return find<QMenu>(name); }
+    // Chooses an entry of a list as the user does.
+    void choose(const QString& combo, const QString& text)
+    {
+        QComboBox* box = find<QComboBox>(combo);
+        const int i = box->findText(text);
+        QVERIFY(i >= 0);
+        box->setCurrentIndex(i);
+        emit box->activated(i);
+    }
+    QString address() { return find<QLineEdit>("txtFullAddress")->text(); }
+};
+} // namespace
+
+class TestGeoCitiesWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theMenusStandInTheirOrder()
+    {
+        WindowRig r;
+        QStringList bar;
+        for (QAction* a : r.w->menuBar()->actions())
+            bar << a->text();
+        QCOMPARE(bar, (QStringList{"&File", "&Tools", "Xtras", "&Help"}));
+        QCOMPARE(entries(r.menu("mnuFile")),
+                 (QStringList{"Sto&p>", "&GeoTree", "Go&Japan", "-", "&Import Links",
+                              "&Export Links", "-", "E&xit"}));
+        QCOMPARE(entries(r.menu("mnuStop")), (QStringList{"&AutoNav", "&RandNav"}));
+        QCOMPARE(entries(r.menu("mnuSettings")),
+                 (QStringList{"Keep OnTo&p", "Publish Files", "Vorlan &Options"}));
+        QCOMPARE(entries(r.menu("mnuXtras")),
+                 (QStringList{"&Web Browser Two", "IE&Cache Manager", "Create a web Page",
+                              "Load Pictures from file list", "Download files from file list"}));
+        QCOMPARE(entries(r.menu("mnuHelp")), (QStringList{"Vorlan>", "GeoCities>", "&About"}));
+        QCOMPARE(entries(r.menu("mnuVorlan")), (QStringList{"Help", "Home"}));
+        QCOMPARE(entries(r.menu("mnuGeoCitesmain")),
+                 (QStringList{"GeoCities", "GeoSearch", "GeoChat"}));
+    }
+
+    void theControlsShowTheComposedAddress()
+    {
+        WindowRig r;
+        QCOMPARE(r.find<QComboBox>("cmbNeighborhood")->count(), 41);
+        QCOMPARE(r.find<QComboBox>("cmbHouseNumberPrefix")->count(), 90);
+        QCOMPARE(r.address(), QString("geocities.com/Area51/1000/"));
+        QVERIFY(r.find<QPushButton>("cmdSavedLinks[1]")->isHidden());
+        QVERIFY(!r.find<QPushButton>("cmdGoBack")->isEnabled());
+
+        r.choose("cmbNeighborhood", "SoHo");
+        r.choose("cmbSuburb", "Lofts");
+        r.choose("cmbHouseNumberPrefix", "42");
+        QCOMPARE(r.address(), QString("geocities.com/SoHo/Lofts/4200/"));
+        QCOMPARE(r.find<QSlider>("sldrHouseNumber")->value(), 4200);
+        QCOMPARE(r.find<QLineEdit>("txtFullAddress")->toolTip(), r.address());
+
+        r.find<QSlider>("sldrHouseNumber")->setValue(5005);
+        QCOMPARE(r.address(), QString("geocities.com/SoHo/Lofts/5005/"));
+        QCOMPARE(r.find<QComboBox>("cmbHouseNumberSuffix")->currentText(), QString("05"));
+    }
+
+    void theButtonsStepTheNumber()
+    {
+        WindowRig r;
+        QTest::mouseClick(r.find<QPushButton>("cmdPrevious"), Qt::LeftButton);
+        QCOMPARE(r.address(), QString("geocities.com/Area51/9999/"));
+        QTest::mouseClick(r.find<QPushButton>("cmdNext"), Qt::LeftButton);
+        QCOMPARE(r.address(), QString("geocities.com/Area51/1000/"));
+        // Each step opened the address in Browser One.
+        QVERIFY(r.windows.browserOne());
+        QTRY_COMPARE(r.windows.browserOne()->rules().txtAddressBar.text(),
+                     QString("http://www.geocities.com/Area51/1000/"));
+    }
+
+    void goJapanSwitchesTheCatalogueAndCaption()
+    {
+        WindowRig r;
+        QAction* japan = r.w->findChild<QAction*>("mnuJapan");
+        japan->trigger();
+        QVERIFY(japan->isChecked());
+        QCOMPARE(r.w->windowTitle(), QString("Navigate GeoCities Japan"));
+        QCOMPARE(r.find<QComboBox>("cmbNeighborhood")->count(), 14);
+        QCOMPARE(r.address(), QString("geocities.co.jp/Milkyway/1000/"));
+        japan->trigger();
+        QVERIFY(!japan->isChecked());
+        QCOMPARE(r.w->windowTitle(), QString("Navigate GeoCities USA"));
+    }
+
+    void theWindowKeepsItsSizeAndStaysOnTheScreen()
+    {
+        WindowRig r;
+        QCOMPARE(r.w->minimumSize(), r.w->maximumSize());
+        QVERIFY(r.w->x() >= 0 && r.w->y() >= 0);
+        r.w->findChild<QAction*>("mnuOnTop")->trigger();
+        QVERIFY(r.w->windowFlags() & Qt::WindowStaysOnTopHint);
+        QVERIFY(r.t.state.gblnMainOnTop);
+    }
+};
+
+// Opening an address starts the browser engine: its requests go to a local
+// port where nothing answers, so nothing leaves the machine.
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QApplication app(argc, argv);
+    EngineEnvironment::prepare(QStringLiteral("http://127.0.0.1:9"));
+    TestGeoCitiesWindow test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "TestGeoCitiesWindow.moc"
