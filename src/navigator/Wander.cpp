@@ -37,8 +37,8 @@ Wander::Wander(AppContext& ctx, Navigator& navigator)
     : timeOfDay(clockText), m_ctx(ctx), m_nav(navigator), m_c(navigator.controls()),
       m_composer(navigator.composer())
 {
-    connect(&tmrAN, &QTimer::timeout, this, &Wander::tickAN);
-    connect(&tmrRB, &QTimer::timeout, this, &Wander::tickRB);
+    connect(&tmrAN, &QTimer::timeout, this, [this] { tick([this] { m_c.cmdNext.click(); }); });
+    connect(&tmrRB, &QTimer::timeout, this, [this] { tick([this] { RandNavStep(); }); });
 }
 
 Wander::Mode Wander::mode() const
@@ -218,7 +218,7 @@ void Wander::AutoNavClick()
 
 // A tick does not stop its timer: the next page's progress holds it, so a
 // page that never reports progress is replaced at the next tick.
-void Wander::tickAN()
+void Wander::tick(const std::function<void()>& step)
 {
     if (!m_ctx.ConnectionUp()) {
         m_nav.StopAutoModes();
@@ -227,21 +227,7 @@ void Wander::tickAN()
     try {
         if (!m_ctx.state.gblnFullPages)
             m_nav.browserStop();
-        m_c.cmdNext.click();
-    } catch (const std::exception&) {
-    }
-}
-
-void Wander::tickRB()
-{
-    if (!m_ctx.ConnectionUp()) {
-        m_nav.StopAutoModes();
-        return;
-    }
-    try {
-        if (!m_ctx.state.gblnFullPages)
-            m_nav.browserStop();
-        RandNavStep();
+        step();
     } catch (const std::exception&) {
     }
 }

@@ -57,8 +57,8 @@ signals:
     void limitTimerOff();
 
 private:
-    void tickAN();
-    void tickRB();
+    // The tick of tmrAN or tmrRB: step unless the connection is gone.
+    void tick(const std::function<void()>& step);
     void readSelection();
     int drawNeighborhood(bool& firstPair);
     int drawSuburb(int neighborhood);
