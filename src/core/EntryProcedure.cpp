@@ -177,6 +177,7 @@ void EntryProcedure::loadData(const QString& lowered)
 
 void EntryProcedure::settingsErrorRoute()
 {
+    m_ui.unloadSplash();
     try {
         m_ctx.settings.DeleteSetting(m_ctx.state.gstrAppName);
     } catch (const std::exception&) {
