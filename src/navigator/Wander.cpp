@@ -169,20 +169,33 @@ void Wander::readSelection()
     }
 }
 
+void Wander::switchOff(QTimer& pace)
+{
+    pace.stop();
+    emit limitTimerOff();
+    setChecks(false, false);
+}
+
+// A walk needs the connection; the user is told when it is not there.
+bool Wander::switchingOn()
+{
+    if (!m_ctx.ConnectionUp()) {
+        m_ctx.MsgBox(QString::fromLatin1(NoConnection));
+        return false;
+    }
+    m_nav.LeaveSavedView();
+    return true;
+}
+
 void Wander::RandNavClick()
 {
     if (m_c.mnuRandNav.isChecked()) {
         RandNavSelection.clear();
-        tmrRB.stop();
-        emit limitTimerOff();
-        setChecks(false, false);
+        switchOff(tmrRB);
         return;
     }
-    if (!m_ctx.ConnectionUp()) {
-        m_ctx.MsgBox(QString::fromLatin1(NoConnection));
+    if (!switchingOn())
         return;
-    }
-    m_nav.LeaveSavedView();
     if (m_c.mnuAutoNav.isChecked())
         AutoNavClick();
     setChecks(false, true);
@@ -200,16 +213,11 @@ void Wander::RandNavClick()
 void Wander::AutoNavClick()
 {
     if (m_c.mnuAutoNav.isChecked()) {
-        tmrAN.stop();
-        emit limitTimerOff();
-        setChecks(false, false);
+        switchOff(tmrAN);
         return;
     }
-    if (!m_ctx.ConnectionUp()) {
-        m_ctx.MsgBox(QString::fromLatin1(NoConnection));
+    if (!switchingOn())
         return;
-    }
-    m_nav.LeaveSavedView();
     if (m_c.mnuRandNav.isChecked())
         RandNavClick();
     setChecks(true, false);

@@ -63,6 +63,8 @@ private:
     int drawNeighborhood(bool& firstPair);
     int drawSuburb(int neighborhood);
     void setChecks(bool autoNav, bool randNav);
+    void switchOff(QTimer& pace);
+    bool switchingOn();
 
     AppContext& m_ctx;
     Navigator& m_nav;
