@@ -2,7 +2,8 @@
 
 #include "WebPage.h"
 
-PopUpWindow::PopUpWindow(std::function<QWebEnginePage*()> newWindow) : m_page(new WebPage(this))
+PopUpWindow::PopUpWindow(QWebEngineProfile* profile, std::function<QWebEnginePage*()> newWindow)
+    : m_page(new WebPage(profile, this))
 {
     setObjectName(QStringLiteral("PopUpWindow"));
     setAttribute(Qt::WA_DeleteOnClose);

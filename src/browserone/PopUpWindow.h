@@ -12,7 +12,7 @@ class PopUpWindow : public QWebEngineView
     Q_OBJECT
 public:
     // newWindow: how a further window wished by this page is made.
-    explicit PopUpWindow(std::function<QWebEnginePage*()> newWindow);
+    PopUpWindow(QWebEngineProfile* profile, std::function<QWebEnginePage*()> newWindow);
 
     WebPage* webPage() const { return m_page; }
 

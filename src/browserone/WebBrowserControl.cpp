@@ -6,8 +6,8 @@
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineView>
 
-WebBrowserControl::WebBrowserControl(QWebEngineView* view)
-    : BrowserControl(view), m_view(view), m_page(new WebPage(view))
+WebBrowserControl::WebBrowserControl(QWebEngineView* view, QWebEngineProfile* profile)
+    : BrowserControl(view), m_view(view), m_page(new WebPage(profile, view))
 {
     view->setPage(m_page);
     m_page->newWindow = [this]() -> QWebEnginePage* {

@@ -3,6 +3,7 @@
 #include "BrowserControl.h"
 
 class QWebEnginePage;
+class QWebEngineProfile;
 class QWebEngineView;
 class WebPage;
 
@@ -15,7 +16,8 @@ class WebBrowserControl : public BrowserControl
 {
     Q_OBJECT
 public:
-    explicit WebBrowserControl(QWebEngineView* view);
+    // The view shows a page of the given profile.
+    WebBrowserControl(QWebEngineView* view, QWebEngineProfile* profile);
 
     QWebEngineView* view() const { return m_view; }
     WebPage* page() const { return m_page; }

@@ -77,7 +77,7 @@ void frmWBOne::buildControls()
     m_view = new QWebEngineView(this);
     m_view->setObjectName(QStringLiteral("WBOne"));
     layout->addWidget(m_view, 1);
-    m_control = new WebBrowserControl(m_view);
+    m_control = new WebBrowserControl(m_view, m_windows.profile());
     m_control->openWindow = [this] { return m_windows.openPopUp(); };
     m_windows.browsers().addOwn(this, [this] { close(); });
     // The page's widget appears once the engine has made it; it is what

@@ -13,13 +13,26 @@
 #include <QGuiApplication>
 #include <QListWidget>
 #include <QScreen>
+#include <QWebEngineProfile>
 
 WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx) {}
 
+// Every page goes before the profile it belongs to.
 WindowRegistry::~WindowRegistry()
 {
+    for (const QPointer<PopUpWindow>& window : m_popUps)
+        delete window;
+    delete m_linksPanel;
     delete m_browserOne;
     delete m_main;
+    delete m_profile;
+}
+
+QWebEngineProfile* WindowRegistry::profile()
+{
+    if (!m_profile)
+        m_profile = new QWebEngineProfile(QStringLiteral("Vorlan"));
+    return m_profile;
 }
 
 frmGeoCities* WindowRegistry::main(bool create)
@@ -97,7 +110,9 @@ void WindowRegistry::toggleBrowserOneOnTop()
 
 QWebEnginePage* WindowRegistry::openPopUp()
 {
-    auto* window = new PopUpWindow([this] { return openPopUp(); });
+    auto* window = new PopUpWindow(profile(), [this] { return openPopUp(); });
+    m_popUps.removeAll(nullptr);
+    m_popUps.append(window);
     m_browsers.addPopUp(window, [window] { window->close(); });
     window->show();
     return window->webPage();

@@ -12,7 +12,9 @@
 #include <QStringList>
 
 struct AppContext;
+class PopUpWindow;
 class QWebEnginePage;
+class QWebEngineProfile;
 
 // The open windows of the program, each made on first use, through which
 // the windows reach each other; and the ordered list of its browser windows.
@@ -40,6 +42,9 @@ public:
     void toggleBrowserOneOnTop();
     // A new window for a page that asked for one; returns its page.
     QWebEnginePage* openPopUp();
+    // The browser windows' profile: cookies and the page cache, kept in the
+    // user's data and cache folders between runs. Made on first use.
+    QWebEngineProfile* profile();
 
     // The tree window's width in twips, 0 while it is not open.
     int treeWidthTwips() const { return 0; }
@@ -60,4 +65,6 @@ private:
     QPointer<frmWBOne> m_browserOne;
     QPointer<frmWBOLinks> m_linksPanel;
     BrowserWindowList m_browsers;
+    QList<QPointer<PopUpWindow>> m_popUps;
+    QWebEngineProfile* m_profile = nullptr;
 };
