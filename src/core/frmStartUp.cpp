@@ -2,6 +2,7 @@
 
 #include "SharedState.h"
 #include "Version.h"
+#include "navigator/NeighborhoodPictures.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -12,17 +13,15 @@ frmStartUp::frmStartUp(SharedState& state)
 {
     setObjectName(QStringLiteral("frmStartUp"));
     setAttribute(Qt::WA_QuitOnClose, false);
-    setAutoFillBackground(true);
-    QPalette pal = palette();
-    pal.setColor(QPalette::Window, QColor(0, 0, 96));
-    pal.setColor(QPalette::WindowText, QColor(255, 255, 224));
-    setPalette(pal);
+    setAttribute(Qt::WA_StyledBackground);
+    setStyleSheet(QStringLiteral("frmStartUp { background: #000060; border: 2px solid #e8b530; }"
+                                 "QLabel { color: #ffffe0; }"));
 
     QFont times(QStringLiteral("Times New Roman"));
     times.setPointSize(12);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 16, 24, 16);
-    layout->setSpacing(2);
+    layout->setSpacing(4);
     auto make = [this, layout, &times](const char* name, const QString& text, int points) {
         auto* label = new QLabel(text, this);
         label->setObjectName(QLatin1String(name));
@@ -33,9 +32,12 @@ frmStartUp::frmStartUp(SharedState& state)
         layout->addWidget(label);
         return label;
     };
+    auto* picture = new QLabel(this);
+    picture->setPixmap(NeighborhoodPictures::picture(false, 1));
+    picture->setAlignment(Qt::AlignHCenter);
+    layout->addWidget(picture);
     Label2 = make("Label2", QStringLiteral("Vorlan"), 26);
     Label1 = make("Label1", QStringLiteral("A GeoCities navigator"), 11);
-    Label12 = make("Label12", QStringLiteral("Please wait"), 9);
     // The texts end in carriage returns, as the program writes them.
     const QString version = QStringLiteral("   Vorlan Version %1.%2%3\r\r")
                                 .arg(Version::Major)
@@ -48,6 +50,7 @@ frmStartUp::frmStartUp(SharedState& state)
                              texts[i].trimmed(), i == 3 ? 12 : 11);
         lblStartUp[i]->setProperty("vbText", texts[i]);
     }
+    Label12 = make("Label12", QStringLiteral("One home page at a time"), 9);
     setFixedSize(sizeHint().expandedTo(QSize(380, 220)));
 
     const QScreen* screen = QGuiApplication::primaryScreen();
