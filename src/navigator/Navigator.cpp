@@ -29,7 +29,6 @@ Navigator::Navigator(AppContext& ctx, NavigatorHost& host)
       m_saved(ctx, m_c, m_composer, *this, host)
 {
     connectEvents();
-    connect(this, &Navigator::savedLinksReload, &m_saved, &SavedLinks::LoadSavedLinks);
 }
 
 void Navigator::connectEvents()
@@ -78,7 +77,7 @@ void Navigator::LoadCatalogue()
     const CatalogueData& cat = m_ctx.state.catalogue;
     for (int i = 1; i <= cat.gintNeighborhoodCount; ++i)
         m_c.cmbNeighborhood.addItem(cat.name(i));
-    emit savedLinksReload(m_ctx.state.gblnJapan ? Tbl::JapanSaved : Tbl::UsaSaved);
+    m_saved.LoadSavedLinks(m_ctx.state.gblnJapan ? Tbl::JapanSaved : Tbl::UsaSaved);
     LoadMainSettings();
 }
 

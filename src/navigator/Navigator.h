@@ -78,10 +78,6 @@ public:
     // Stops the load in Browser One, if it is open.
     void browserStop();
 
-signals:
-    // The saved links of the region are to be read again (table 2 or 6).
-    void savedLinksReload(int table);
-
 private:
     void connectEvents();
     void releaseOnTop(); // the preamble of the menus that show a window
