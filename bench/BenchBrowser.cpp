@@ -6,8 +6,8 @@
 #include "LocalWebServer.h"
 #include "ProcessMemory.h"
 #include "TestContext.h"
+#include "app/WindowRegistry.h"
 #include "browserone/frmWBOne.h"
-#include "core/WindowRegistry.h"
 #include "navigator/frmGeoCities.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 // (data folder and database made) and a later run, beside the same figure
 // for a bare Qt window. Each figure is the median of several runs, each in
 // a process of its own.
-#include "core/Application.h"
+#include "app/Application.h"
 
 #include <QApplication>
 #include <QDateTime>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "addressdata/TableNames.h"
+#include "core/TableNames.h"
 
 #include <QString>
 

@@ -5,29 +5,20 @@
 #include "core/AppContext.h"
 #include "core/SettingsKeys.h"
 #include "core/VbRuntime.h"
-#include "navigator/Navigator.h"
+#include "navigator/MainWindowCalls.h"
+#include "navigator/NavigatorControls.h"
+#include "navigator/Wander.h"
 
 #include <exception>
 
 namespace {
-enum MainCommand
-{
-    GoBack = 2,
-    Next = 3,
-    Quit = 7,
-    RandNav = 8,
-    AutoNav = 9,
-    OnTop = 12,
-    RandNavStep = 15,
-    StopWalks = 17
-};
 const QString FiveBlanks(5, QLatin1Char(' '));
 const QString TenBlanks(10, QLatin1Char(' '));
 } // namespace
 
-BrowserOne::BrowserOne(AppContext& ctx, Navigator& navigator, BrowserControl& browser,
+BrowserOne::BrowserOne(AppContext& ctx, MainWindowCalls& main, BrowserControl& browser,
                        BrowserOneHost& host)
-    : m_ctx(ctx), m_nav(navigator), m_browser(browser), m_host(host)
+    : m_ctx(ctx), m_nav(main), m_browser(browser), m_host(host)
 {
     form.setText(QStringLiteral("Navigate GeoCities"));
     cmdNext.setText(QStringLiteral("&Next"));
@@ -47,8 +38,8 @@ BrowserOne::BrowserOne(AppContext& ctx, Navigator& navigator, BrowserControl& br
     connect(&mnuRandNav, &Control::clicked, this, &BrowserOne::RandNavClick);
     connect(&mnuTop, &Control::clicked, this, &BrowserOne::TopClick);
     connect(&mnuSaved, &Control::clicked, this, &BrowserOne::savedClicked);
-    connect(&navigator.wander(), &Wander::modeChanged, this, &BrowserOne::showMode);
-    connect(&navigator.wander(), &Wander::limitTimerOff, &tmrLimit, &QTimer::stop);
+    connect(&main.wander(), &Wander::modeChanged, this, &BrowserOne::showMode);
+    connect(&main.wander(), &Wander::limitTimerOff, &tmrLimit, &QTimer::stop);
 }
 
 void BrowserOne::Load()
@@ -80,9 +71,9 @@ void BrowserOne::Unload()
     SharedState& st = m_ctx.state;
     NavigatorControls& main = m_nav.controls();
     if (main.mnuAutoNav.isChecked())
-        m_nav.frmGeoCitiesCalls(AutoNav);
+        m_nav.frmGeoCitiesCalls(GeoCitiesCall::AutoNav);
     if (main.mnuRandNav.isChecked())
-        m_nav.frmGeoCitiesCalls(RandNav);
+        m_nav.frmGeoCitiesCalls(GeoCitiesCall::RandNav);
     tmrLimit.stop();
     st.gblnWBOneLoaded = false;
     st.gblnWBOneOnTop = false;
@@ -174,11 +165,11 @@ void BrowserOne::LimitTick()
         if (mnuAutoNav.isChecked()) {
             m_browser.Stop();
             Wander::enable(m_nav.wander().tmrAN);
-            m_nav.frmGeoCitiesCalls(Next);
+            m_nav.frmGeoCitiesCalls(GeoCitiesCall::Next);
         } else if (mnuRandNav.isChecked()) {
             m_browser.Stop();
             Wander::enable(m_nav.wander().tmrRB);
-            m_nav.frmGeoCitiesCalls(RandNavStep);
+            m_nav.frmGeoCitiesCalls(GeoCitiesCall::RandNavStep);
         }
     } catch (const std::exception&) {
     }
@@ -233,7 +224,7 @@ void BrowserOne::AddressBarKey(int key)
     if (txtAddressBar.text().isEmpty())
         return;
     if (key == 13) {
-        m_nav.frmGeoCitiesCalls(StopWalks);
+        m_nav.frmGeoCitiesCalls(GeoCitiesCall::StopAutoModes);
         m_nav.NavigateSomeWhereElse(txtAddressBar.text());
     } else {
         AddressBarEdited = true;
@@ -242,7 +233,7 @@ void BrowserOne::AddressBarKey(int key)
 
 void BrowserOne::AddressBarClick()
 {
-    m_nav.frmGeoCitiesCalls(StopWalks);
+    m_nav.frmGeoCitiesCalls(GeoCitiesCall::StopAutoModes);
 }
 
 void BrowserOne::WindowKey(int key)
@@ -260,7 +251,7 @@ void BrowserOne::TopClick()
         m_host.setWindowOnTop(on);
         st.gblnWBOneOnTop = on;
         if (st.gblnOnTopSynch && on != st.gblnMainOnTop)
-            m_nav.frmGeoCitiesCalls(OnTop);
+            m_nav.frmGeoCitiesCalls(GeoCitiesCall::OnTop);
     } catch (const std::exception&) {
     }
 }
@@ -278,26 +269,24 @@ QString BrowserOne::SearchHost(int index, bool japan)
 void BrowserOne::SearchClick(int index)
 {
     try {
-        m_nav.frmGeoCitiesCalls(StopWalks);
+        m_nav.frmGeoCitiesCalls(GeoCitiesCall::StopAutoModes);
         m_nav.NavigateSomeWhereElse(SearchHost(index, m_ctx.state.gblnJapan));
     } catch (const std::exception&) {
     }
 }
 
-void BrowserOne::frmWBOCalls(int command)
+void BrowserOne::frmWBOCalls(WBOCall command)
 {
     try {
         switch (command) {
-        case 1:
+        case WBOCall::OnTop:
             TopClick();
             break;
-        case 2:
+        case WBOCall::Saved:
             emit savedClicked();
             break;
-        case 3:
+        case WBOCall::Resize:
             emit resizeRequested();
-            break;
-        default:
             break;
         }
     } catch (const std::exception&) {
@@ -312,32 +301,32 @@ bool BrowserOne::HoverMenuAt(int x, int y, int pageWidth, int pageHeight, bool o
 
 void BrowserOne::StopClick()
 {
-    m_nav.frmGeoCitiesCalls(StopWalks);
+    m_nav.frmGeoCitiesCalls(GeoCitiesCall::StopAutoModes);
     m_browser.Stop();
 }
 
 void BrowserOne::NextClick()
 {
-    m_nav.frmGeoCitiesCalls(Next);
+    m_nav.frmGeoCitiesCalls(GeoCitiesCall::Next);
 }
 
 void BrowserOne::BackClick()
 {
-    m_nav.frmGeoCitiesCalls(StopWalks);
-    m_nav.frmGeoCitiesCalls(GoBack);
+    m_nav.frmGeoCitiesCalls(GeoCitiesCall::StopAutoModes);
+    m_nav.frmGeoCitiesCalls(GeoCitiesCall::GoBack);
 }
 
 void BrowserOne::AutoNavClick()
 {
-    m_nav.frmGeoCitiesCalls(AutoNav);
+    m_nav.frmGeoCitiesCalls(GeoCitiesCall::AutoNav);
 }
 void BrowserOne::RandNavClick()
 {
-    m_nav.frmGeoCitiesCalls(RandNav);
+    m_nav.frmGeoCitiesCalls(GeoCitiesCall::RandNav);
 }
 void BrowserOne::ExitClick()
 {
-    m_nav.frmGeoCitiesCalls(Quit);
+    m_nav.frmGeoCitiesCalls(GeoCitiesCall::Quit);
 }
 
 void BrowserOne::showMode()

@@ -7,9 +7,18 @@
 #include <QTimer>
 
 struct AppContext;
+
+// The codes of frmWBOCalls, through which other windows press Browser One's
+// menu entries.
+enum class WBOCall
+{
+    OnTop = 1,  // Click of mnuTop
+    Saved = 2,  // Click of mnuSaved
+    Resize = 3, // the window's Resize handling
+};
 class BrowserControl;
 class BrowserOneHost;
-class Navigator;
+class MainWindowCalls;
 
 // The rules of frmWBOne, the program's first browser window: it shows the
 // page, reports the load in its caption, holds and releases the walks'
@@ -22,7 +31,7 @@ class BrowserOne : public QObject
 public:
     static constexpr const char* UrlHint = "Right Click Page For IE Menu!";
 
-    BrowserOne(AppContext& ctx, Navigator& navigator, BrowserControl& browser,
+    BrowserOne(AppContext& ctx, MainWindowCalls& main, BrowserControl& browser,
                BrowserOneHost& host);
 
     // Controls of the window.
@@ -65,7 +74,7 @@ public:
     void WindowKey(int key);
     void TopClick();
     void SearchClick(int index);
-    void frmWBOCalls(int command);
+    void frmWBOCalls(WBOCall command);
     void LimitTick();
 
     // Menu entries that forward to the main window.
@@ -94,7 +103,7 @@ private:
     void showMode();
 
     AppContext& m_ctx;
-    Navigator& m_nav;
+    MainWindowCalls& m_nav;
     BrowserControl& m_browser;
     BrowserOneHost& m_host;
 };

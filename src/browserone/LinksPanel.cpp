@@ -4,24 +4,18 @@
 #include "LinksPanelHost.h"
 #include "core/AppContext.h"
 #include "core/SettingsKeys.h"
-#include "navigator/Navigator.h"
+#include "navigator/MainWindowCalls.h"
+#include "navigator/NavigatorControls.h"
+#include "navigator/SavedLinks.h"
 
 #include <exception>
 
-namespace {
-enum MainCommand
-{
-    StopWalks = 17,
-    SavedLinkClick = 18
-};
-} // namespace
-
-LinksPanel::LinksPanel(AppContext& ctx, Navigator& navigator, BrowserOne& browser,
+LinksPanel::LinksPanel(AppContext& ctx, MainWindowCalls& main, BrowserOne& browser,
                        LinksPanelHost& host)
-    : m_ctx(ctx), m_nav(navigator), m_browser(browser), m_host(host)
+    : m_ctx(ctx), m_nav(main), m_browser(browser), m_host(host)
 {
     connect(&browser, &BrowserOne::savedClicked, this, &LinksPanel::SavedClick);
-    connect(&navigator.savedLinks().lstLinks, &Control::clicked, this, &LinksPanel::ListClick);
+    connect(&main.savedLinks().lstLinks, &Control::clicked, this, &LinksPanel::ListClick);
 }
 
 void LinksPanel::SavedClick()
@@ -40,7 +34,7 @@ void LinksPanel::open()
     SharedState& st = m_ctx.state;
     // A topmost Browser One would cover the panel.
     if (st.gblnWBOneOnTop)
-        m_browser.frmWBOCalls(1);
+        m_browser.frmWBOCalls(WBOCall::OnTop);
     const QRect screen = m_host.screenTwips();
     const QRect panel = m_host.panelTwips();
     const QString top = m_ctx.GetSetting(Sect::Startup, Key::LinksT,
@@ -93,8 +87,8 @@ void LinksPanel::ListClick()
     NavigatorControls& main = m_nav.controls();
     try {
         main.cmbSavedLinks.setListIndex(index);
-        m_nav.frmGeoCitiesCalls(SavedLinkClick);
-        m_nav.frmGeoCitiesCalls(StopWalks);
+        m_nav.frmGeoCitiesCalls(GeoCitiesCall::SavedLinkClick);
+        m_nav.frmGeoCitiesCalls(GeoCitiesCall::StopAutoModes);
         m_nav.NavigateSomeWhereElse(main.txtFullAddress.text());
     } catch (const std::exception&) {
     }

@@ -5,7 +5,7 @@
 
 class BrowserOne;
 class LinksPanelHost;
-class Navigator;
+class MainWindowCalls;
 struct AppContext;
 
 // The rules of frmWBOLinks, the saved-links panel beside Browser One: the
@@ -17,7 +17,7 @@ class LinksPanel : public QObject
 {
     Q_OBJECT
 public:
-    LinksPanel(AppContext& ctx, Navigator& navigator, BrowserOne& browser, LinksPanelHost& host);
+    LinksPanel(AppContext& ctx, MainWindowCalls& main, BrowserOne& browser, LinksPanelHost& host);
 
     // The Click of mnuSaved in Browser One: opens a closed panel, closes an
     // open one.
@@ -37,7 +37,7 @@ private:
     void savePlace();
 
     AppContext& m_ctx;
-    Navigator& m_nav;
+    MainWindowCalls& m_nav;
     BrowserOne& m_browser;
     LinksPanelHost& m_host;
 };

@@ -1,14 +1,12 @@
 #include "frmWBOne.h"
 
+#include "BrowserOneWindows.h"
 #include "Favorites.h"
 #include "WebBrowserControl.h"
 #include "core/AppContext.h"
 #include "core/ControlBinder.h"
 #include "core/PlaceWindow.h"
 #include "core/WindowPlace.h"
-#include "core/WindowRegistry.h"
-#include "navigator/Navigator.h"
-#include "navigator/frmGeoCities.h"
 
 #include <QClipboard>
 #include <QCloseEvent>
@@ -35,8 +33,8 @@ QRect availableScreen()
 }
 } // namespace
 
-frmWBOne::frmWBOne(AppContext& ctx, Navigator& navigator, WindowRegistry& windows)
-    : m_ctx(ctx), m_nav(navigator), m_windows(windows)
+frmWBOne::frmWBOne(AppContext& ctx, MainWindowCalls& main, BrowserOneWindows& windows)
+    : m_ctx(ctx), m_windows(windows)
 {
     setObjectName(QStringLiteral("frmWBOne"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -45,8 +43,8 @@ frmWBOne::frmWBOne(AppContext& ctx, Navigator& navigator, WindowRegistry& window
     resize(twipsToPixels(WindowPlace::MinWidth), twipsToPixels(WindowPlace::MinHeight));
     setAutoFillBackground(true);
     buildControls();
-    m_rules = std::make_unique<BrowserOne>(ctx, navigator, *m_control, *this);
-    m_links = std::make_unique<LinksPanel>(ctx, navigator, *m_rules, windows);
+    m_rules = std::make_unique<BrowserOne>(ctx, main, *m_control, *this);
+    m_links = std::make_unique<LinksPanel>(ctx, main, *m_rules, windows);
     ControlBinder::bindCaption(m_rules->form, this);
     ControlBinder::bind(m_rules->txtAddressBar, m_addressBar);
     ControlBinder::bind(m_rules->cmdNext, m_next);
@@ -248,14 +246,14 @@ void frmWBOne::closeWindowsAfter(int keep)
 
 void frmWBOne::unloadLinksPanel()
 {
-    m_windows.unloadLinksPanel();
+    m_windows.closePanel();
 }
 
 void frmWBOne::VorlanClick()
 {
     if (m_ctx.state.gblnWBOneOnTop)
-        m_rules->frmWBOCalls(1);
-    frmGeoCities* main = m_windows.main(false);
+        m_rules->frmWBOCalls(WBOCall::OnTop);
+    QWidget* main = m_windows.mainWindow();
     if (!main)
         return;
     if (main->isMinimized())

@@ -12,7 +12,8 @@ class QMenu;
 class QPushButton;
 class QWebEngineView;
 class WebBrowserControl;
-class WindowRegistry;
+class BrowserOneWindows;
+class MainWindowCalls;
 
 // Browser One: a window around one browser control, with an address bar
 // and a Next button on top and a menu that pops up when the pointer hovers
@@ -21,7 +22,7 @@ class frmWBOne : public QWidget, public BrowserOneHost
 {
     Q_OBJECT
 public:
-    frmWBOne(AppContext& ctx, Navigator& navigator, WindowRegistry& windows);
+    frmWBOne(AppContext& ctx, MainWindowCalls& main, BrowserOneWindows& windows);
     ~frmWBOne() override;
 
     BrowserOne& rules() { return *m_rules; }
@@ -58,8 +59,7 @@ private:
     void hover(const QPoint& pos, bool overAddressBar);
 
     AppContext& m_ctx;
-    Navigator& m_nav;
-    WindowRegistry& m_windows;
+    BrowserOneWindows& m_windows;
     QWebEngineView* m_view = nullptr;
     QLineEdit* m_addressBar = nullptr;
     QPushButton* m_next = nullptr;

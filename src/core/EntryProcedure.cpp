@@ -2,19 +2,21 @@
 
 #include "AppContext.h"
 #include "HelpPages.h"
+#include "MainDataFiles.h"
 #include "SettingsKeys.h"
 #include "StartupUi.h"
 #include "Version.h"
-#include "addressdata/MainDatabase.h"
-#include "addressdata/TextDatabase.h"
-#include "navigator/Navigator.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <exception>
+#include <stdexcept>
 
-EntryProcedure::EntryProcedure(AppContext& ctx, StartupUi& ui) : m_ctx(ctx), m_ui(ui) {}
+EntryProcedure::EntryProcedure(AppContext& ctx, StartupUi& ui, MainDataFiles& files)
+    : m_ctx(ctx), m_ui(ui), m_files(files)
+{
+}
 
 bool EntryProcedure::LooksLikeUrl(const QString& lowered)
 {
@@ -118,7 +120,7 @@ void EntryProcedure::copyOver(const QString& from, const QString& to)
 {
     QFile::remove(to);
     if (!QFile::copy(from, to))
-        throw DbError("Cannot copy " + from.toStdString() + " to " + to.toStdString());
+        throw std::runtime_error("Cannot copy " + from.toStdString() + " to " + to.toStdString());
 }
 
 // The working file is checked table by table. A bad one is replaced by the
@@ -127,17 +129,17 @@ void EntryProcedure::copyOver(const QString& from, const QString& to)
 bool EntryProcedure::verifyOrRecover(bool backupExists)
 {
     SharedState& st = m_ctx.state;
-    bool bad = !VerifyMainDatabase(st.gstrGeoData, st.gastrTables);
+    bool bad = !m_files.Verify(st.gstrGeoData);
     if (bad && backupExists) {
         QFile::remove(st.gstrGeoData);
         if (QFile::copy(st.gstrGeoBckUp, st.gstrGeoData))
-            bad = !VerifyMainDatabase(st.gstrGeoData, st.gastrTables);
+            bad = !m_files.Verify(st.gstrGeoData);
     }
     if (bad) {
         if (!ShowLines(m_ctx.prompts, CorruptLines(), QStringLiteral("Corrupt Database!"), true))
             return false;
         QFile::remove(st.gstrGeoData);
-        CreateMainDatabase(st);
+        m_files.Create();
         copyOver(st.gstrGeoData, st.gstrGeoBckUp);
         return true;
     }
@@ -152,7 +154,7 @@ void EntryProcedure::createMissing(bool backupExists)
     if (backupExists) {
         copyOver(st.gstrGeoBckUp, st.gstrGeoData);
     } else {
-        CreateMainDatabase(st);
+        m_files.Create();
         copyOver(st.gstrGeoData, st.gstrGeoBckUp);
     }
     m_ui.unloadSplash();
@@ -162,8 +164,8 @@ void EntryProcedure::loadData(const QString& lowered)
 {
     SharedState& st = m_ctx.state;
     m_ui.showSplash(QStringLiteral("    Loading Data..."));
-    m_ctx.gdbMain.open(st.gstrGeoData);
-    Navigator& navigator = m_ui.loadMainWindow();
+    m_files.Open();
+    MainWindowEntry& navigator = m_ui.loadMainWindow();
     navigator.LoadCatalogue();
     m_ui.unloadSplash();
     if (st.gblnHandedOff) {
@@ -184,5 +186,5 @@ void EntryProcedure::settingsErrorRoute()
     }
     m_ctx.prompts.msgBox(
         QStringLiteral("A settings error was encountered!\rYou will need to restart Vorlan!"));
-    m_ctx.gdbMain.close();
+    m_files.Close();
 }

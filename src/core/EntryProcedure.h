@@ -4,6 +4,7 @@
 #include <QStringList>
 
 struct AppContext;
+class MainDataFiles;
 class StartupUi;
 
 // The program's entry: the command line, a second instance, first-use
@@ -12,7 +13,7 @@ class StartupUi;
 class EntryProcedure
 {
 public:
-    EntryProcedure(AppContext& ctx, StartupUi& ui);
+    EntryProcedure(AppContext& ctx, StartupUi& ui, MainDataFiles& files);
 
     // True when the main window is shown and the window events take over;
     // false when the process is to end.
@@ -35,4 +36,5 @@ private:
 
     AppContext& m_ctx;
     StartupUi& m_ui;
+    MainDataFiles& m_files;
 };

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "addressdata/CatalogueData.h"
-#include "addressdata/SavedLink.h"
-#include "addressdata/TableNames.h"
+#include "CatalogueData.h"
+#include "SavedLink.h"
+#include "TableNames.h"
 
 #include <QString>
 #include <QVector>

@@ -2,7 +2,6 @@
 
 #include "PromptService.h"
 #include "Version.h"
-#include "navigator/NeighborhoodPictures.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -10,13 +9,14 @@
 #include <QPushButton>
 #include <QSysInfo>
 
-frmAbout::frmAbout(PromptService& prompts, QWidget* parent) : QDialog(parent), m_prompts(prompts)
+frmAbout::frmAbout(PromptService& prompts, const QPixmap& house, QWidget* parent)
+    : QDialog(parent), m_prompts(prompts)
 {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(tr("About Vorlan"));
     auto* layout = new QGridLayout(this);
     auto* picture = new QLabel(this);
-    picture->setPixmap(NeighborhoodPictures::picture(false, 1));
+    picture->setPixmap(house);
     layout->addWidget(picture, 0, 0, 3, 1, Qt::AlignTop);
 
     auto* title = new QLabel(QStringLiteral("Vorlan"), this);

@@ -2,13 +2,12 @@
 
 #include "SharedState.h"
 #include "Version.h"
-#include "navigator/NeighborhoodPictures.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 #include <QVBoxLayout>
 
-frmStartUp::frmStartUp(SharedState& state)
+frmStartUp::frmStartUp(SharedState& state, const QPixmap& house)
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint), m_state(state)
 {
     setObjectName(QStringLiteral("frmStartUp"));
@@ -33,7 +32,7 @@ frmStartUp::frmStartUp(SharedState& state)
         return label;
     };
     auto* picture = new QLabel(this);
-    picture->setPixmap(NeighborhoodPictures::picture(false, 1));
+    picture->setPixmap(house);
     picture->setAlignment(Qt::AlignHCenter);
     layout->addWidget(picture);
     Label2 = make("Label2", QStringLiteral("Vorlan"), 26);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QPixmap>
 #include <QWidget>
 #include <array>
 
@@ -11,7 +12,8 @@ class frmStartUp : public QWidget
 {
     Q_OBJECT
 public:
-    explicit frmStartUp(SharedState& state);
+    // picture: the program's house, shown above the name.
+    frmStartUp(SharedState& state, const QPixmap& picture);
     ~frmStartUp() override;
 
     QLabel* Label2;

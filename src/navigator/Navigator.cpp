@@ -178,7 +178,7 @@ void Navigator::OpenSite()
         m_host.browserStop();
     else
         m_host.ShowBrowserOne();
-    frmGeoCitiesCalls(10);
+    frmGeoCitiesCalls(GeoCitiesCall::SaveMainSettings);
     NavigateSomeWhereElse(m_c.txtFullAddress.text());
 }
 
@@ -380,65 +380,63 @@ void Navigator::Unload()
     m_host.endProgram();
 }
 
-void Navigator::frmGeoCitiesCalls(int code)
+void Navigator::frmGeoCitiesCalls(GeoCitiesCall code)
 {
     try {
         switch (code) {
-        case 1:
+        case GeoCitiesCall::NeighborhoodClick:
             m_c.cmbNeighborhood.click();
             break;
-        case 2:
+        case GeoCitiesCall::GoBack:
             m_c.cmdGoBack.click();
             break;
-        case 3:
+        case GeoCitiesCall::Next:
             m_c.cmdNext.click();
             break;
-        case 4:
+        case GeoCitiesCall::OpenSite:
             m_c.cmdOpenSite.click();
             break;
-        case 5:
+        case GeoCitiesCall::ShowBrowserOne:
             m_host.ShowBrowserOne();
             break;
-        case 6:
+        case GeoCitiesCall::BrowserTwo:
             ShowProgramWindow(ProgramWindow::BrowserTwo);
             break;
-        case 7:
+        case GeoCitiesCall::Quit:
             m_c.cmdQuite.click();
             break;
-        case 8:
+        case GeoCitiesCall::RandNav:
             m_c.mnuRandNav.click();
             break;
-        case 9:
+        case GeoCitiesCall::AutoNav:
             m_c.mnuAutoNav.click();
             break;
-        case 10:
+        case GeoCitiesCall::SaveMainSettings:
             SaveMainSettings();
             break;
-        case 11:
+        case GeoCitiesCall::GeoTree:
             m_c.mnuGeoTree.click();
             break;
-        case 12:
+        case GeoCitiesCall::OnTop:
             m_c.mnuOnTop.click();
             break;
-        case 13:
+        case GeoCitiesCall::ValidateSelection:
             m_composer.ValidateSelection();
             break;
-        case 14:
+        case GeoCitiesCall::LoadMainSettings:
             LoadMainSettings();
             break;
-        case 15:
+        case GeoCitiesCall::RandNavStep:
             RandNavStep();
             break;
-        case 16:
+        case GeoCitiesCall::ComposeAddress:
             m_composer.ComposeAddress();
             break;
-        case 17:
+        case GeoCitiesCall::StopAutoModes:
             StopAutoModes();
             break;
-        case 18:
+        case GeoCitiesCall::SavedLinkClick:
             m_c.cmbSavedLinks.click();
-            break;
-        default:
             break;
         }
     } catch (const std::exception&) {

@@ -2,10 +2,12 @@
 
 #include "AddressComposer.h"
 #include "ComposerHooks.h"
+#include "MainWindowCalls.h"
 #include "NavigatorControls.h"
 #include "NavigatorHost.h"
 #include "SavedLinks.h"
 #include "Wander.h"
+#include "core/StartupUi.h"
 
 #include <QObject>
 #include <QStringList>
@@ -16,17 +18,20 @@ struct AppContext;
 // address and options, the region switch, on-top, opening addresses in
 // Browser One, the menus, and frmGeoCitiesCalls, through which the other
 // windows press its buttons. The window itself only shows the controls.
-class Navigator : public QObject, public ComposerHooks
+class Navigator : public QObject,
+                  public ComposerHooks,
+                  public MainWindowCalls,
+                  public MainWindowEntry
 {
     Q_OBJECT
 public:
     Navigator(AppContext& ctx, NavigatorHost& host);
 
-    NavigatorControls& controls() { return m_c; }
+    NavigatorControls& controls() override { return m_c; }
     AddressComposer& composer() { return m_composer; }
     AppContext& context() { return m_ctx; }
-    Wander& wander() { return m_wander; }
-    SavedLinks& savedLinks() { return m_saved; }
+    Wander& wander() override { return m_wander; }
+    SavedLinks& savedLinks() override { return m_saved; }
     NavigatorHost& host() { return m_host; }
 
     // The window's load: its place and the digit lists. Throws when a
@@ -34,18 +39,18 @@ public:
     void Load();
     // The region's catalogue into the arrays and lists, then the saved links
     // and the main settings. Throws on a database or settings fault.
-    void LoadCatalogue();
+    void LoadCatalogue() override;
     void SwitchRegionData(int code);
     void LoadMainSettings();
     void SaveMainSettings();
 
-    void NavigateSomeWhereElse(const QString& url);
+    void NavigateSomeWhereElse(const QString& url) override;
     // Runs the window's Unload: saves, closes the other windows, ends.
-    void Unload();
+    void Unload() override;
 
     // Presses a button of this window for another one; errors inside are
     // ignored, any other code does nothing.
-    void frmGeoCitiesCalls(int code);
+    void frmGeoCitiesCalls(GeoCitiesCall code) override;
 
     // ComposerHooks
     void StopAutoModes() override;

@@ -1,11 +1,9 @@
 #include "frmGeoCities.h"
 
 #include "NeighborhoodPictures.h"
-#include "browserone/WebBrowserControl.h"
 #include "core/AppContext.h"
 #include "core/ControlBinder.h"
 #include "core/WindowPlace.h"
-#include "core/WindowRegistry.h"
 #include "frmWBONote.h"
 
 #include <QApplication>
@@ -30,7 +28,7 @@ QLabel* caption(const QString& name, const QString& text, QWidget* parent)
 }
 } // namespace
 
-frmGeoCities::frmGeoCities(AppContext& ctx, WindowRegistry& windows)
+frmGeoCities::frmGeoCities(AppContext& ctx, NavigatorWindows& windows)
     : m_ctx(ctx), m_windows(windows), m_nav(ctx, *this)
 {
     setObjectName(QStringLiteral("frmGeoCities"));
@@ -203,13 +201,17 @@ void frmGeoCities::buildMenus()
             show(ProgramWindow::About));
 
     // Entries whose windows this build does not have stay visible but idle.
-    for (QAction* action : menuBar()->findChildren<QAction*>()) {
-        static const QStringList absent = {"mnuExport",  "mnuPublish", "mnuBrowserTwo",
-                                           "mnuCache",   "mnuScript",  "mnuNetPic",
-                                           "mnuInetGet", "mnuGeoTree", "mnuOptions"};
-        if (absent.contains(action->objectName()))
-            action->setEnabled(m_windows.has(action->objectName()));
+    const QList<QPair<const char*, ProgramWindow>> entries = {
+        {"mnuExport", ProgramWindow::Export},         {"mnuPublish", ProgramWindow::GeoFtp},
+        {"mnuBrowserTwo", ProgramWindow::BrowserTwo}, {"mnuScript", ProgramWindow::Script},
+        {"mnuNetPic", ProgramWindow::NetPics},        {"mnuInetGet", ProgramWindow::Inetget}};
+    for (const auto& [name, window] : entries) {
+        if (auto* action = menuBar()->findChild<QAction*>(QLatin1String(name)))
+            action->setEnabled(m_windows.hasWindow(window));
     }
+    c.mnuCache.setEnabled(m_windows.hasWindow(ProgramWindow::Cache));
+    c.mnuGeoTree.setEnabled(m_windows.hasWindow(ProgramWindow::GeoTree));
+    c.mnuOptions.setEnabled(m_windows.hasWindow(ProgramWindow::Options));
 }
 
 void frmGeoCities::showPicture()
@@ -288,21 +290,26 @@ void frmGeoCities::toggleBrowserOneOnTop()
 {
     m_windows.toggleBrowserOneOnTop();
 }
+QString frmGeoCities::browserTitle() const
+{
+    return m_windows.browserTitle();
+}
+bool frmGeoCities::hasWindow(ProgramWindow window) const
+{
+    return m_windows.hasWindow(window);
+}
 bool frmGeoCities::showWindow(ProgramWindow window)
 {
-    return m_windows.show(window);
+    return m_windows.showWindow(window);
 }
 void frmGeoCities::unloadWindow(ProgramWindow window)
 {
-    m_windows.unload(window);
+    m_windows.unloadWindow(window);
 }
 
 void frmGeoCities::showNoteDialog()
 {
-    auto title = [this] {
-        frmWBOne* browser = m_windows.browserOne();
-        return browser ? browser->control().LocationName() : QString();
-    };
+    auto title = [this] { return m_windows.browserTitle(); };
     frmWBONote note(m_ctx, m_nav.savedLinks(), title, this);
     note.exec();
 }

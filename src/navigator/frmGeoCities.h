@@ -10,7 +10,6 @@ class QLabel;
 class QLineEdit;
 class QMenu;
 class QSlider;
-class WindowRegistry;
 
 // The main window: a small window of fixed size that shows the Navigator's
 // controls and menus. Its rules live in Navigator; closing it ends the
@@ -20,8 +19,9 @@ class frmGeoCities : public QMainWindow, public NavigatorHost
     Q_OBJECT
 public:
     // Makes the window and runs its load: its place and the digit lists.
-    // Throws when a stored place is no number.
-    frmGeoCities(AppContext& ctx, WindowRegistry& windows);
+    // Throws when a stored place is no number. The other windows are
+    // reached through windows.
+    frmGeoCities(AppContext& ctx, NavigatorWindows& windows);
     ~frmGeoCities() override;
 
     Navigator& navigator() { return m_nav; }
@@ -36,6 +36,8 @@ public:
     void browserStop() override;
     void browserGoBack() override;
     void toggleBrowserOneOnTop() override;
+    QString browserTitle() const override;
+    bool hasWindow(ProgramWindow window) const override;
     bool showWindow(ProgramWindow window) override;
     void unloadWindow(ProgramWindow window) override;
     void showNoteDialog() override;
@@ -54,7 +56,7 @@ private:
     void showPicture();
 
     AppContext& m_ctx;
-    WindowRegistry& m_windows;
+    NavigatorWindows& m_windows;
     Navigator m_nav;
     QMenu* m_fileMenu = nullptr;
     QLabel* m_picture = nullptr;

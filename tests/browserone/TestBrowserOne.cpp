@@ -230,9 +230,9 @@ private slots:
         QVERIFY(!r.t.state.gblnMainOnTop);
         r.one->TopClick();
         r.t.state.gblnOnTopSynch = true;
-        r.one->frmWBOCalls(1);
+        r.one->frmWBOCalls(WBOCall::OnTop);
         QVERIFY(r.t.state.gblnMainOnTop && r.t.state.gblnWBOneOnTop);
-        r.one->frmWBOCalls(1);
+        r.one->frmWBOCalls(WBOCall::OnTop);
         QVERIFY(!r.t.state.gblnMainOnTop && !r.t.state.gblnWBOneOnTop);
     }
 

@@ -1,9 +1,9 @@
 #include "EngineEnvironment.h"
 #include "LocalWebServer.h"
 #include "TestContext.h"
+#include "app/WindowRegistry.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/frmWBOne.h"
-#include "core/WindowRegistry.h"
 #include "navigator/frmGeoCities.h"
 
 #include <QApplication>

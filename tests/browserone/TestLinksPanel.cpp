@@ -68,7 +68,7 @@ private slots:
 
         r.panelHost.place = QRect(300, 450, 6000, 4500);
         r.panelHost.calls.clear();
-        r.one->frmWBOCalls(2);
+        r.one->frmWBOCalls(WBOCall::Saved);
         QCOMPARE(r.panelHost.calls, QStringList({"close"}));
         QVERIFY(!r.one->mnuSaved.isChecked());
         QVERIFY(!r.t.state.gblnLinksPanelOpen);
@@ -78,7 +78,7 @@ private slots:
         QCOMPARE(r.t.ctx.GetSetting("Startup", "LinksW"), QString("6000"));
 
         r.panelHost.calls.clear();
-        r.one->frmWBOCalls(2);
+        r.one->frmWBOCalls(WBOCall::Saved);
         QCOMPARE(r.panelHost.calls.first(), QString("place 300 450 4500 6000"));
     }
 

@@ -1,6 +1,7 @@
 #include "RecordingHost.h"
 #include "TestContext.h"
 #include "addressdata/MainDatabase.h"
+#include "addressdata/MainDatabaseFiles.h"
 #include "core/EntryProcedure.h"
 #include "core/StartupUi.h"
 #include "navigator/Navigator.h"
@@ -53,10 +54,11 @@ struct Start
 {
     TestContext t;
     FakeStartupUi ui{t};
+    MainDatabaseFiles files{t.ctx};
 
     bool run(const QString& commandLine = QString())
     {
-        EntryProcedure entry(t.ctx, ui);
+        EntryProcedure entry(t.ctx, ui, files);
         return entry.run(commandLine);
     }
     QString data() const { return t.folders.appPath() + "GeoData.db"; }

@@ -1,7 +1,7 @@
 #include "EngineEnvironment.h"
 #include "TestContext.h"
+#include "app/WindowRegistry.h"
 #include "browserone/frmWBOne.h"
-#include "core/WindowRegistry.h"
 #include "navigator/frmGeoCities.h"
 
 #include <QAction>

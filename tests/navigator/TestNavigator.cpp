@@ -61,7 +61,7 @@ private slots:
         r.t.ctx.SaveSetting("Startup", "gblnAutoLimit", "soon");
         QVERIFY_THROWS_EXCEPTION(VbError, r.nav.LoadMainSettings());
         // Pressed by another window, the failure stays inside the call.
-        r.nav.frmGeoCitiesCalls(14);
+        r.nav.frmGeoCitiesCalls(GeoCitiesCall::LoadMainSettings);
     }
 
     void saveWritesTheAddressFlagsAndPlace()
@@ -241,15 +241,16 @@ private slots:
     {
         NavigatorRig r;
         r.start();
-        r.nav.frmGeoCitiesCalls(3);
+        r.nav.frmGeoCitiesCalls(GeoCitiesCall::Next);
         QCOMPARE(r.c.txtFullAddress.text(), QString("geocities.com/Area51/1001/"));
-        r.nav.frmGeoCitiesCalls(12);
+        r.nav.frmGeoCitiesCalls(GeoCitiesCall::OnTop);
         QVERIFY(r.t.state.gblnMainOnTop);
         const QStringList before = r.host.calls;
-        r.nav.frmGeoCitiesCalls(0);
-        r.nav.frmGeoCitiesCalls(19);
+        // A code outside the table does nothing.
+        r.nav.frmGeoCitiesCalls(static_cast<GeoCitiesCall>(0));
+        r.nav.frmGeoCitiesCalls(static_cast<GeoCitiesCall>(19));
         QCOMPARE(r.host.calls, before);
-        r.nav.frmGeoCitiesCalls(5);
+        r.nav.frmGeoCitiesCalls(GeoCitiesCall::ShowBrowserOne);
         QCOMPARE(r.host.calls.last(), QString("show BrowserOne"));
     }
 

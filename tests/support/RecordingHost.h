@@ -33,6 +33,8 @@ public:
     void browserStop() override { calls << "stop"; }
     void browserGoBack() override { calls << "back"; }
     void toggleBrowserOneOnTop() override;
+    QString browserTitle() const override { return QString(); }
+    bool hasWindow(ProgramWindow window) const override { return available.contains(window); }
     bool showWindow(ProgramWindow window) override;
     void unloadWindow(ProgramWindow window) override;
     void showNoteDialog() override;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PromptService.h"
+#include "core/PromptService.h"
 
 class QWidget;
 

@@ -1,73 +1,60 @@
-#include "WindowRegistry.h"
+#include "BrowserOneWindows.h"
 
-#include "AppContext.h"
-#include "PlaceWindow.h"
-#include "WindowPlace.h"
-#include "browserone/PopUpWindow.h"
-#include "browserone/WebBrowserControl.h"
-#include "browserone/WebPage.h"
-#include "browserone/frmWBOne.h"
-#include "frmAbout.h"
-#include "navigator/frmGeoCities.h"
+#include "PopUpWindow.h"
+#include "WebBrowserControl.h"
+#include "WebPage.h"
+#include "core/AppContext.h"
+#include "core/PlaceWindow.h"
+#include "core/WindowPlace.h"
+#include "frmWBOLinks.h"
+#include "frmWBOne.h"
+#include "navigator/MainWindowCalls.h"
 
 #include <QGuiApplication>
 #include <QListWidget>
 #include <QScreen>
 #include <QWebEngineProfile>
 
-WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx) {}
+BrowserOneWindows::BrowserOneWindows(AppContext& ctx, MainWindowCalls& main,
+                                     std::function<QWidget*()> mainWindow,
+                                     std::function<int()> treeWidth)
+    : m_ctx(ctx), m_main(main), m_mainWindow(std::move(mainWindow)),
+      m_treeWidth(std::move(treeWidth))
+{
+}
 
 // Every page goes before the profile it belongs to.
-WindowRegistry::~WindowRegistry()
+BrowserOneWindows::~BrowserOneWindows()
 {
     for (const QPointer<PopUpWindow>& window : m_popUps)
         delete window;
     delete m_linksPanel;
     delete m_browserOne;
-    delete m_main;
     delete m_profile;
 }
 
-QWebEngineProfile* WindowRegistry::profile()
+frmWBOne* BrowserOneWindows::browserOne() const
+{
+    return m_browserOne;
+}
+
+frmWBOLinks* BrowserOneWindows::linksPanel() const
+{
+    return m_linksPanel;
+}
+
+QWebEngineProfile* BrowserOneWindows::profile()
 {
     if (!m_profile)
         m_profile = new QWebEngineProfile(QStringLiteral("Vorlan"));
     return m_profile;
 }
 
-frmGeoCities* WindowRegistry::main(bool create)
-{
-    if (!m_main && create)
-        m_main = new frmGeoCities(m_ctx, *this);
-    return m_main;
-}
-
-bool WindowRegistry::has(const QString&) const
-{
-    return false;
-}
-
-bool WindowRegistry::show(ProgramWindow window)
-{
-    if (window == ProgramWindow::About) {
-        frmAbout about(m_ctx.prompts, main(false));
-        about.exec();
-        return true;
-    }
-    return false;
-}
-
-void WindowRegistry::unload(ProgramWindow window)
-{
-    if (window == ProgramWindow::BrowserOne && m_browserOne)
-        m_browserOne->close();
-}
-
-void WindowRegistry::ShowBrowserOne()
+void BrowserOneWindows::ShowBrowserOne()
 {
     SharedState& st = m_ctx.state;
     if (!st.gblnWBOneLoaded || !m_browserOne) {
-        m_browserOne = new frmWBOne(m_ctx, main()->navigator(), *this);
+        m_browserOne = new frmWBOne(m_ctx, m_main, *this);
         m_browserOne->show();
         st.gblnWBOneLoaded = true;
         return;
@@ -76,39 +63,49 @@ void WindowRegistry::ShowBrowserOne()
     const int tree = treeWidthTwips();
     const int left = pixelsToTwips(m_browserOne->x());
     if (st.gblnTreeShown && tree + 5 >= left) {
-        const QScreen* screen = QGuiApplication::primaryScreen();
-        const int screenWidth = screen ? pixelsToTwips(screen->availableGeometry().width()) : 0;
+        const int screenWidth = screenTwips().width();
         if (screenWidth - (tree + 5) < pixelsToTwips(m_browserOne->width()))
             m_browserOne->resize(twipsToPixels(screenWidth - (tree + 5)), m_browserOne->height());
         m_browserOne->move(twipsToPixels(tree + 5), m_browserOne->y());
     }
 }
 
-void WindowRegistry::browserNavigate(const QString& url)
+void BrowserOneWindows::navigate(const QString& url)
 {
     if (m_browserOne)
         m_browserOne->control().Navigate(url);
 }
 
-void WindowRegistry::browserStop()
+void BrowserOneWindows::stop()
 {
     if (m_browserOne)
         m_browserOne->control().Stop();
 }
 
-void WindowRegistry::browserGoBack()
+void BrowserOneWindows::goBack()
 {
     if (m_browserOne)
         m_browserOne->control().GoBack();
 }
 
-void WindowRegistry::toggleBrowserOneOnTop()
+void BrowserOneWindows::toggleOnTop()
 {
     if (m_browserOne)
         m_browserOne->rules().TopClick();
 }
 
-QWebEnginePage* WindowRegistry::openPopUp()
+QString BrowserOneWindows::title() const
+{
+    return m_browserOne ? m_browserOne->control().LocationName() : QString();
+}
+
+void BrowserOneWindows::unload()
+{
+    if (m_browserOne)
+        m_browserOne->close();
+}
+
+QWebEnginePage* BrowserOneWindows::openPopUp()
 {
     auto* window = new PopUpWindow(profile(), [this] { return openPopUp(); });
     m_popUps.removeAll(nullptr);
@@ -118,19 +115,14 @@ QWebEnginePage* WindowRegistry::openPopUp()
     return window->webPage();
 }
 
-void WindowRegistry::unloadLinksPanel()
-{
-    closePanel();
-}
-
-QRect WindowRegistry::screenTwips() const
+QRect BrowserOneWindows::screenTwips() const
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     const QRect area = screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
     return QRect(0, 0, pixelsToTwips(area.width()), pixelsToTwips(area.height()));
 }
 
-QRect WindowRegistry::panelTwips() const
+QRect BrowserOneWindows::panelTwips() const
 {
     if (!m_linksPanel)
         return QRect(0, 0, WindowPlace::MinWidth, WindowPlace::MinHeight);
@@ -139,16 +131,16 @@ QRect WindowRegistry::panelTwips() const
                  pixelsToTwips(place.width()), pixelsToTwips(place.height()));
 }
 
-void WindowRegistry::placePanel(const QString& left, const QString& top, const QString& height,
-                                const QString& width)
+void BrowserOneWindows::placePanel(const QString& left, const QString& top, const QString& height,
+                                   const QString& width)
 {
-    if (!m_linksPanel && m_browserOne && m_main)
-        m_linksPanel = new frmWBOLinks(m_main->navigator().savedLinks(), m_browserOne->linksPanel(),
-                                       m_browserOne);
+    if (!m_linksPanel && m_browserOne)
+        m_linksPanel =
+            new frmWBOLinks(m_main.savedLinks(), m_browserOne->linksPanel(), m_browserOne);
     PlaceWindow(m_linksPanel, m_ctx.state, left, top, height, width, false, treeWidthTwips());
 }
 
-void WindowRegistry::showPanel()
+void BrowserOneWindows::showPanel()
 {
     if (!m_linksPanel)
         return;
@@ -158,7 +150,7 @@ void WindowRegistry::showPanel()
     m_linksPanel->lstLinks()->setFocus();
 }
 
-void WindowRegistry::closePanel()
+void BrowserOneWindows::closePanel()
 {
     if (m_linksPanel)
         m_linksPanel->close();

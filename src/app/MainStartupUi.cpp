@@ -1,8 +1,9 @@
 #include "MainStartupUi.h"
 
-#include "AppContext.h"
 #include "WindowRegistry.h"
-#include "frmStartUp.h"
+#include "core/AppContext.h"
+#include "core/frmStartUp.h"
+#include "navigator/NeighborhoodPictures.h"
 #include "navigator/frmGeoCities.h"
 
 #include <QCoreApplication>
@@ -26,7 +27,8 @@ QString MainStartupUi::defaultLockPath()
 void MainStartupUi::showSplash(const QString& status)
 {
     if (!m_splash)
-        m_splash = std::make_unique<frmStartUp>(m_ctx.state);
+        m_splash =
+            std::make_unique<frmStartUp>(m_ctx.state, NeighborhoodPictures::picture(false, 1));
     m_splash->lblStartUp[3]->setText(status.trimmed());
     m_splash->show();
     m_splash->raise();
@@ -40,7 +42,7 @@ void MainStartupUi::unloadSplash()
     m_splash.reset();
 }
 
-Navigator& MainStartupUi::loadMainWindow()
+MainWindowEntry& MainStartupUi::loadMainWindow()
 {
     return m_windows.main()->navigator();
 }

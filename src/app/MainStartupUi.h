@@ -1,6 +1,6 @@
 #pragma once
 
-#include "StartupUi.h"
+#include "core/StartupUi.h"
 
 #include <QLockFile>
 #include <memory>
@@ -20,7 +20,7 @@ public:
 
     void showSplash(const QString& status) override;
     void unloadSplash() override;
-    Navigator& loadMainWindow() override;
+    MainWindowEntry& loadMainWindow() override;
     void showMainWindow() override;
     bool isPrevInstance() override;
 

@@ -1,11 +1,13 @@
 #include "Application.h"
 
-#include "AppContext.h"
-#include "EntryProcedure.h"
 #include "MainStartupUi.h"
 #include "WidgetPrompts.h"
 #include "WindowRegistry.h"
+#include "addressdata/MainDatabaseFiles.h"
 #include "addressdata/TextDatabase.h"
+#include "core/AppContext.h"
+#include "core/EntryProcedure.h"
+#include "navigator/frmGeoCities.h"
 
 #include <QApplication>
 #include <QStandardPaths>
@@ -39,7 +41,8 @@ int RunVorlan(int argc, char* argv[], std::function<void(QWidget*)> shown)
         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QLatin1Char('/')};
     WindowRegistry windows(ctx);
     MainStartupUi ui(ctx, windows, MainStartupUi::defaultLockPath());
-    EntryProcedure entry(ctx, ui);
+    MainDatabaseFiles files(ctx);
+    EntryProcedure entry(ctx, ui, files);
     if (!entry.run(commandLine))
         return 0;
     if (shown)

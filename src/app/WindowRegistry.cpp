@@ -1,0 +1,111 @@
+#include "WindowRegistry.h"
+
+#include "browserone/BrowserOneWindows.h"
+#include "browserone/WebBrowserControl.h"
+#include "browserone/frmWBOne.h"
+#include "core/AppContext.h"
+#include "core/frmAbout.h"
+#include "navigator/NeighborhoodPictures.h"
+#include "navigator/frmGeoCities.h"
+
+WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
+{
+    add(
+        ProgramWindow::BrowserOne, [this] { ShowBrowserOne(); },
+        [this] { browserOneWindows().unload(); });
+    add(ProgramWindow::About, [this] {
+        frmAbout about(m_ctx.prompts, NeighborhoodPictures::picture(false, 1), m_main.get());
+        about.exec();
+    });
+}
+
+// Browser One's windows reach into the main window's rules: they go first.
+WindowRegistry::~WindowRegistry()
+{
+    m_browserOne.reset();
+    m_main.reset();
+}
+
+void WindowRegistry::add(ProgramWindow window, std::function<void()> show,
+                         std::function<void()> unload)
+{
+    m_windows[window] = Entry{std::move(show), std::move(unload)};
+}
+
+frmGeoCities* WindowRegistry::main(bool create)
+{
+    if (!m_main && create) {
+        m_main = std::make_unique<frmGeoCities>(m_ctx, *this);
+        m_browserOne = std::make_unique<BrowserOneWindows>(
+            m_ctx, m_main->navigator(), [this] { return static_cast<QWidget*>(m_main.get()); },
+            [this] { return treeWidthTwips(); });
+    }
+    return m_main.get();
+}
+
+BrowserOneWindows& WindowRegistry::browserOneWindows()
+{
+    main();
+    return *m_browserOne;
+}
+
+frmWBOne* WindowRegistry::browserOne() const
+{
+    return m_browserOne ? m_browserOne->browserOne() : nullptr;
+}
+
+BrowserWindowList& WindowRegistry::browsers()
+{
+    return browserOneWindows().browsers();
+}
+
+void WindowRegistry::ShowBrowserOne()
+{
+    browserOneWindows().ShowBrowserOne();
+}
+
+void WindowRegistry::browserNavigate(const QString& url)
+{
+    browserOneWindows().navigate(url);
+}
+
+void WindowRegistry::browserStop()
+{
+    browserOneWindows().stop();
+}
+
+void WindowRegistry::browserGoBack()
+{
+    browserOneWindows().goBack();
+}
+
+void WindowRegistry::toggleBrowserOneOnTop()
+{
+    browserOneWindows().toggleOnTop();
+}
+
+QString WindowRegistry::browserTitle() const
+{
+    return m_browserOne ? m_browserOne->title() : QString();
+}
+
+bool WindowRegistry::hasWindow(ProgramWindow window) const
+{
+    return m_windows.count(window) > 0;
+}
+
+bool WindowRegistry::showWindow(ProgramWindow window)
+{
+    const auto found = m_windows.find(window);
+    if (found == m_windows.end())
+        return false;
+    found->second.show();
+    return true;
+}
+
+void WindowRegistry::unloadWindow(ProgramWindow window)
+{
+    const auto found = m_windows.find(window);
+    if (found != m_windows.end() && found->second.unload)
+        found->second.unload();
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "browserone/BrowserWindowList.h"
+#include "navigator/NavigatorWindows.h"
+
+#include <QPointer>
+#include <functional>
+#include <map>
+#include <memory>
+
+struct AppContext;
+class BrowserOneWindows;
+class frmGeoCities;
+class frmWBOne;
+
+// The program's windows, each made on first use, through which they reach
+// each other. It is the one place that knows every subsystem: each one
+// adds its windows here with one call in the constructor.
+class WindowRegistry : public NavigatorWindows
+{
+public:
+    explicit WindowRegistry(AppContext& ctx);
+    ~WindowRegistry() override;
+
+    // The main window, made on first use with Browser One's windows.
+    frmGeoCities* main(bool create = true);
+    frmWBOne* browserOne() const;
+    BrowserWindowList& browsers();
+
+    // NavigatorWindows
+    void ShowBrowserOne() override;
+    void browserNavigate(const QString& url) override;
+    void browserStop() override;
+    void browserGoBack() override;
+    void toggleBrowserOneOnTop() override;
+    QString browserTitle() const override;
+    bool hasWindow(ProgramWindow window) const override;
+    bool showWindow(ProgramWindow window) override;
+    void unloadWindow(ProgramWindow window) override;
+
+private:
+    struct Entry
+    {
+        std::function<void()> show;
+        std::function<void()> unload;
+    };
+    void add(ProgramWindow window, std::function<void()> show, std::function<void()> unload = {});
+    BrowserOneWindows& browserOneWindows();
+    // The tree window's width in twips, 0 while it is not open.
+    int treeWidthTwips() const { return 0; }
+
+    AppContext& m_ctx;
+    std::map<ProgramWindow, Entry> m_windows;
+    std::unique_ptr<frmGeoCities> m_main;
+    std::unique_ptr<BrowserOneWindows> m_browserOne;
+};
