@@ -34,8 +34,8 @@ QString reseededDraw(double seed)
 } // namespace
 
 Wander::Wander(AppContext& ctx, Navigator& navigator)
-    : timeOfDay(clockText), m_ctx(ctx), m_nav(navigator), m_c(navigator.controls()),
-      m_composer(navigator.composer())
+    : timeOfDay(clockText), randomValue(reseededDraw), m_ctx(ctx), m_nav(navigator),
+      m_c(navigator.controls()), m_composer(navigator.composer())
 {
     connect(&tmrAN, &QTimer::timeout, this, [this] { tick([this] { m_c.cmdNext.click(); }); });
     connect(&tmrRB, &QTimer::timeout, this, [this] { tick([this] { RandNavStep(); }); });
@@ -65,7 +65,7 @@ QString Wander::RandomDigits()
         QCoreApplication::processEvents();
         QString clock = timeOfDay();
         clock.remove(QRegularExpression(QStringLiteral("[^0-9]")));
-        const QString draw = reseededDraw(Vb::Val(clock));
+        const QString draw = randomValue(Vb::Val(clock));
         for (QChar ch : draw) {
             if (ch.isDigit())
                 acc.append(ch);

@@ -34,6 +34,9 @@ public:
 
     // The time of day as text, the seed of each draw; the clock by default.
     std::function<QString()> timeOfDay;
+    // The generator's value after a reseed with the given number, as the
+    // text a single-precision value prints as; a Mersenne twister by default.
+    std::function<QString(double seed)> randomValue;
 
     Mode mode() const;
     void setInterval(int milliseconds);

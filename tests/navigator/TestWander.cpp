@@ -19,6 +19,16 @@ void addMisc(NavigatorRig& r, const QString& table, const QStringList& names)
                   rows);
 }
 
+// A generator that gives the listed texts in turn, then a fixed one.
+std::shared_ptr<QStringList> script(Wander& w, const QStringList& values)
+{
+    auto queue = std::make_shared<QStringList>(values);
+    w.randomValue = [queue](double) {
+        return queue->isEmpty() ? QStringLiteral("12009") : queue->takeFirst();
+    };
+    return queue;
+}
+
 // The Neighborhood and Suburb of a composed USA or Japan address.
 QStringList partsOf(const QString& url)
 {
@@ -82,6 +92,88 @@ private slots:
         QCOMPARE("http://www." + r.c.txtFullAddress.text(), opened.last());
         QCOMPARE(r.c.lblComment.text(),
                  r.t.state.catalogue.gastrDescription[r.composer.CurrentNeighborhood]);
+    }
+
+    // The digits of the generator's texts are gathered, the point, sign and
+    // leading zero dropped, the exponent's digits kept.
+    void drawsGatherTheDigitsOfTheGeneratorsTexts()
+    {
+        struct Case
+        {
+            QStringList values;
+            QString digits;
+        };
+        const QList<Case> cases = {
+            {{"12345"}, "1234"},
+            {{"1234", "5"}, "1234"}, // four digits are not yet enough
+            {{"1.5E-05", "9"}, "1505"},
+            // A leading zero waits; past 20 digits six from the fifth stay.
+            {{"0.1234567", "0.7654321", "0.5555555"}, "4567"},
+        };
+        for (const Case& c : cases) {
+            NavigatorRig r;
+            auto left = script(r.nav.wander(), c.values);
+            QCOMPARE(r.nav.wander().RandomDigits(), c.digits);
+            QVERIFY(left->isEmpty());
+        }
+    }
+
+    // Neighborhood: the first pair before the second, each only if it is
+    // in the catalogue (or, with a selection, in the selection's order).
+    // Suburb: the right pair before the left. House: one more draw.
+    void randNavPrefersItsPairsAsDescribed()
+    {
+        NavigatorRig r;
+        r.start();
+        const CatalogueData& cat = r.t.state.catalogue;
+        QVERIFY(cat.gaintSuburbCount[12] >= 2);
+        // A draw never begins with 0, so the left pair names a Suburb only
+        // where there are ten or more.
+        int big = 10;
+        while (big <= cat.gintNeighborhoodCount && cat.gaintSuburbCount[big] < 10)
+            ++big;
+        QVERIFY(big <= cat.gintNeighborhoodCount);
+        const QString k = QString::number(big);
+        struct Case
+        {
+            QVector<qint16> selection;
+            QStringList draws;
+            int neighborhood;
+            int suburb;
+        };
+        const QList<Case> cases = {
+            {{}, {"12059", "10029", "43219"}, 12, 2},
+            {{}, {"73" + k + "9", "10999", "43219"}, big, 10},
+            {{}, {"99999", "12059", "10019", "43219"}, 12, 1},
+            {{7, 30}, {"30079", "10009", "43219"}, 7, 0},
+            {{30, 7}, {"30079", "10009", "43219"}, 30, 0},
+        };
+        for (const Case& c : cases) {
+            r.nav.wander().RandNavSelection = c.selection;
+            auto left = script(r.nav.wander(), c.draws);
+            r.nav.RandNavStep();
+            QVERIFY(left->isEmpty());
+            const QString suburb = c.suburb ? cat.suburb(c.neighborhood, c.suburb) : QString();
+            QCOMPARE(partsOf(r.host.navigated().last()),
+                     (QStringList{cat.name(c.neighborhood), suburb, "4321"}));
+            QCOMPARE(r.c.picNeighborhood.entry(), c.neighborhood + 1);
+            QCOMPARE(r.c.picNeighborhood.japanList(), false);
+        }
+
+        // On the Japan site the second pair shows the USA picture list; the
+        // Neighborhood list's Change puts the region's own back, so this
+        // shows where the jump stays in the same Neighborhood.
+        r.c.mnuJapan.click();
+        r.pickNeighborhood(cat.name(5));
+        r.nav.wander().RandNavSelection.clear();
+        script(r.nav.wander(), {"73059", "10009", "43219"});
+        r.nav.RandNavStep();
+        QCOMPARE(r.c.picNeighborhood.japanList(), false);
+        QCOMPARE(r.c.picNeighborhood.entry(), 6);
+        script(r.nav.wander(), {"12739", "10009", "43219"});
+        r.nav.RandNavStep();
+        QCOMPARE(r.c.picNeighborhood.japanList(), true);
+        QCOMPARE(r.c.picNeighborhood.entry(), 13);
     }
 
     void withoutAssignRtcTheControlsStayAsTheyWere()
