@@ -24,9 +24,9 @@ QString flagText(bool flag)
 }
 } // namespace
 
-Navigator::Navigator(AppContext& ctx, NavigatorHost& host)
-    : m_ctx(ctx), m_host(host), m_composer(ctx.state, m_c, *this), m_wander(ctx, *this),
-      m_saved(ctx, m_c, m_composer, *this, host)
+Navigator::Navigator(AppContext& ctx, NavigatorHost& host, NavigatorWindows& windows)
+    : m_ctx(ctx), m_host(host), m_windows(windows), m_composer(ctx.state, m_c, *this),
+      m_wander(ctx, *this), m_saved(ctx, m_c, m_composer, *this, host, windows)
 {
     connectEvents();
 }
@@ -175,9 +175,9 @@ void Navigator::OpenSite()
     if (m_c.txtFullAddress.text().isEmpty())
         return;
     if (m_ctx.state.gblnWBOneLoaded)
-        m_host.browserStop();
+        m_windows.browserStop();
     else
-        m_host.ShowBrowserOne();
+        m_windows.ShowBrowserOne();
     frmGeoCitiesCalls(GeoCitiesCall::SaveMainSettings);
     NavigateSomeWhereElse(m_c.txtFullAddress.text());
 }
@@ -191,11 +191,11 @@ void Navigator::NavigateSomeWhereElse(const QString& url)
     if (url.left(11).toLower() != QLatin1String("http://www.") && !localFile)
         target = QStringLiteral("http://www.") + url;
     try {
-        m_host.ShowBrowserOne();
+        m_windows.ShowBrowserOne();
     } catch (const std::exception&) {
     }
     try {
-        m_host.browserNavigate(target);
+        m_windows.browserNavigate(target);
     } catch (const std::exception&) {
     }
 }
@@ -204,8 +204,8 @@ void Navigator::GoBack()
 {
     try {
         StopAutoModes();
-        m_host.browserStop();
-        m_host.browserGoBack();
+        m_windows.browserStop();
+        m_windows.browserGoBack();
     } catch (const std::exception&) {
     }
 }
@@ -263,7 +263,7 @@ void Navigator::OnTopClick()
     m_host.setWindowOnTop(on);
     st.gblnMainOnTop = on;
     if (st.gblnOnTopSynch && st.gblnWBOneLoaded && st.gblnWBOneOnTop != on)
-        m_host.toggleBrowserOneOnTop();
+        m_windows.toggleBrowserOneOnTop();
 }
 
 void Navigator::releaseOnTop()
@@ -271,20 +271,20 @@ void Navigator::releaseOnTop()
     if (m_ctx.state.gblnMainOnTop)
         OnTopClick();
     if (m_ctx.state.gblnWBOneOnTop)
-        m_host.toggleBrowserOneOnTop();
+        m_windows.toggleBrowserOneOnTop();
 }
 
 void Navigator::GeoTreeClick()
 {
     SharedState& st = m_ctx.state;
     if (m_c.mnuGeoTree.isChecked()) {
-        m_host.unloadWindow(ProgramWindow::GeoTree);
+        m_windows.unloadWindow(ProgramWindow::GeoTree);
         m_c.mnuGeoTree.setChecked(false);
         st.gblnTreeShown = false;
         return;
     }
     releaseOnTop();
-    if (m_host.showWindow(ProgramWindow::GeoTree))
+    if (m_windows.showWindow(ProgramWindow::GeoTree))
         m_c.mnuGeoTree.setChecked(true);
 }
 
@@ -295,14 +295,14 @@ void Navigator::OptionsClick()
     releaseOnTop();
     m_c.mnuOptions.setChecked(true);
     m_c.mnuOptions.setEnabled(false);
-    m_host.showWindow(ProgramWindow::Options);
+    m_windows.showWindow(ProgramWindow::Options);
     m_c.mnuOptions.setEnabled(true);
 }
 
 void Navigator::ShowProgramWindow(ProgramWindow window)
 {
     releaseOnTop();
-    m_host.showWindow(window);
+    m_windows.showWindow(window);
 }
 
 void Navigator::InetGetClick()
@@ -366,16 +366,16 @@ void Navigator::Unload()
 {
     SharedState& st = m_ctx.state;
     SaveMainSettings();
-    m_host.unloadWindow(ProgramWindow::Inetget);
-    m_host.unloadWindow(ProgramWindow::GeoFtp);
+    m_windows.unloadWindow(ProgramWindow::Inetget);
+    m_windows.unloadWindow(ProgramWindow::GeoFtp);
     if (st.gblnWBOneLoaded) {
-        m_host.browserStop();
-        m_host.unloadWindow(ProgramWindow::BrowserOne);
+        m_windows.browserStop();
+        m_windows.unloadWindow(ProgramWindow::BrowserOne);
     }
     if (st.gblnWBTwoLoaded)
-        m_host.unloadWindow(ProgramWindow::BrowserTwo);
+        m_windows.unloadWindow(ProgramWindow::BrowserTwo);
     if (st.gblnCacheLoaded)
-        m_host.unloadWindow(ProgramWindow::Cache);
+        m_windows.unloadWindow(ProgramWindow::Cache);
     m_ctx.gdbMain.close();
     m_host.endProgram();
 }
@@ -397,7 +397,7 @@ void Navigator::frmGeoCitiesCalls(GeoCitiesCall code)
             m_c.cmdOpenSite.click();
             break;
         case GeoCitiesCall::ShowBrowserOne:
-            m_host.ShowBrowserOne();
+            m_windows.ShowBrowserOne();
             break;
         case GeoCitiesCall::BrowserTwo:
             ShowProgramWindow(ProgramWindow::BrowserTwo);
@@ -447,7 +447,7 @@ void Navigator::frmGeoCitiesCalls(GeoCitiesCall code)
 void Navigator::browserStop()
 {
     if (m_ctx.state.gblnWBOneLoaded)
-        m_host.browserStop();
+        m_windows.browserStop();
 }
 
 void Navigator::AutoNavClick()

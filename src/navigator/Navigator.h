@@ -5,6 +5,7 @@
 #include "MainWindowCalls.h"
 #include "NavigatorControls.h"
 #include "NavigatorHost.h"
+#include "NavigatorWindows.h"
 #include "SavedLinks.h"
 #include "Wander.h"
 #include "core/StartupUi.h"
@@ -25,7 +26,8 @@ class Navigator : public QObject,
 {
     Q_OBJECT
 public:
-    Navigator(AppContext& ctx, NavigatorHost& host);
+    // host is the window around these rules, windows the other windows.
+    Navigator(AppContext& ctx, NavigatorHost& host, NavigatorWindows& windows);
 
     NavigatorControls& controls() override { return m_c; }
     AddressComposer& composer() { return m_composer; }
@@ -33,6 +35,7 @@ public:
     Wander& wander() override { return m_wander; }
     SavedLinks& savedLinks() override { return m_saved; }
     NavigatorHost& host() { return m_host; }
+    NavigatorWindows& windows() { return m_windows; }
 
     // The window's load: its place and the digit lists. Throws when a
     // stored place is no number.
@@ -91,6 +94,7 @@ private:
 
     AppContext& m_ctx;
     NavigatorHost& m_host;
+    NavigatorWindows& m_windows;
     NavigatorControls m_c;
     AddressComposer m_composer;
     Wander m_wander;

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "NavigatorWindows.h"
-
 #include <QRect>
 
-// What the Navigator's rules ask of their own window and of the other
-// windows. The real window implements it; tests use a recording one.
-class NavigatorHost : public NavigatorWindows
+// What the Navigator's rules ask of their own window. The real window
+// implements it; tests use a recording one.
+class NavigatorHost
 {
 public:
+    virtual ~NavigatorHost() = default;
+
     // Places in twips: the available screen and this window's frame.
     virtual QRect screenTwips() const = 0;
     virtual QRect windowTwips() const = 0;

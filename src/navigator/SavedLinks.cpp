@@ -4,6 +4,7 @@
 #include "ComposerHooks.h"
 #include "NavigatorControls.h"
 #include "NavigatorHost.h"
+#include "NavigatorWindows.h"
 #include "addressdata/TextDatabase.h"
 #include "core/AppContext.h"
 
@@ -15,8 +16,9 @@ const QString SavedOnPrefix = QStringLiteral("Saved on: Date = ");
 } // namespace
 
 SavedLinks::SavedLinks(AppContext& ctx, NavigatorControls& controls, AddressComposer& composer,
-                       ComposerHooks& hooks, NavigatorHost& host)
-    : m_ctx(ctx), m_c(controls), m_composer(composer), m_hooks(hooks), m_host(host)
+                       ComposerHooks& hooks, NavigatorHost& host, NavigatorWindows& windows)
+    : m_ctx(ctx), m_c(controls), m_composer(composer), m_hooks(hooks), m_host(host),
+      m_windows(windows)
 {
     panelCaption.setText(QStringLiteral("0 Saved Links"));
     connectEvents();
@@ -183,7 +185,7 @@ void SavedLinks::SaveClick()
     if (st.gblnMainOnTop)
         m_c.mnuOnTop.click();
     if (st.gblnWBOneOnTop)
-        m_host.toggleBrowserOneOnTop();
+        m_windows.toggleBrowserOneOnTop();
     m_host.showNoteDialog();
 }
 

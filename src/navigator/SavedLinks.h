@@ -9,6 +9,7 @@
 class AddressComposer;
 class ComposerHooks;
 class NavigatorHost;
+class NavigatorWindows;
 struct AppContext;
 struct NavigatorControls;
 
@@ -29,7 +30,7 @@ public:
     static constexpr const char* LimitMessage = "Maximum number of Links (1,000) already saved!";
 
     SavedLinks(AppContext& ctx, NavigatorControls& controls, AddressComposer& composer,
-               ComposerHooks& hooks, NavigatorHost& host);
+               ComposerHooks& hooks, NavigatorHost& host, NavigatorWindows& windows);
 
     // The list of the saved-links panel and the panel's caption, which the
     // panel's window shows.
@@ -85,4 +86,5 @@ private:
     AddressComposer& m_composer;
     ComposerHooks& m_hooks;
     NavigatorHost& m_host;
+    NavigatorWindows& m_windows;
 };

@@ -29,7 +29,7 @@ QLabel* caption(const QString& name, const QString& text, QWidget* parent)
 } // namespace
 
 frmGeoCities::frmGeoCities(AppContext& ctx, NavigatorWindows& windows)
-    : m_ctx(ctx), m_windows(windows), m_nav(ctx, *this)
+    : m_ctx(ctx), m_windows(windows), m_nav(ctx, *this, windows)
 {
     setObjectName(QStringLiteral("frmGeoCities"));
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -268,43 +268,6 @@ void frmGeoCities::setWindowOnTop(bool onTop)
     setWindowFlag(Qt::WindowStaysOnTopHint, onTop);
     if (shown)
         show();
-}
-
-void frmGeoCities::ShowBrowserOne()
-{
-    m_windows.ShowBrowserOne();
-}
-void frmGeoCities::browserNavigate(const QString& url)
-{
-    m_windows.browserNavigate(url);
-}
-void frmGeoCities::browserStop()
-{
-    m_windows.browserStop();
-}
-void frmGeoCities::browserGoBack()
-{
-    m_windows.browserGoBack();
-}
-void frmGeoCities::toggleBrowserOneOnTop()
-{
-    m_windows.toggleBrowserOneOnTop();
-}
-QString frmGeoCities::browserTitle() const
-{
-    return m_windows.browserTitle();
-}
-bool frmGeoCities::hasWindow(ProgramWindow window) const
-{
-    return m_windows.hasWindow(window);
-}
-bool frmGeoCities::showWindow(ProgramWindow window)
-{
-    return m_windows.showWindow(window);
-}
-void frmGeoCities::unloadWindow(ProgramWindow window)
-{
-    m_windows.unloadWindow(window);
 }
 
 void frmGeoCities::showNoteDialog()

@@ -31,15 +31,6 @@ public:
     QRect windowTwips() const override;
     void moveWindowTwips(int left, int top) override;
     void setWindowOnTop(bool onTop) override;
-    void ShowBrowserOne() override;
-    void browserNavigate(const QString& url) override;
-    void browserStop() override;
-    void browserGoBack() override;
-    void toggleBrowserOneOnTop() override;
-    QString browserTitle() const override;
-    bool hasWindow(ProgramWindow window) const override;
-    bool showWindow(ProgramWindow window) override;
-    void unloadWindow(ProgramWindow window) override;
     void showNoteDialog() override;
     void endProgram() override;
 

@@ -38,7 +38,7 @@ public:
     Navigator& loadMainWindow() override
     {
         host = std::make_unique<RecordingHost>(m_t.state);
-        navigator = std::make_unique<Navigator>(m_t.ctx, *host);
+        navigator = std::make_unique<Navigator>(m_t.ctx, *host, *host);
         navigator->Load();
         return *navigator;
     }

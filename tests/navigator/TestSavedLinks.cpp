@@ -157,7 +157,7 @@ private slots:
         r.t.db.open(r.t.state.gstrGeoData);
         r.t.state.gastrSavedLinks.clear();
         RecordingHost host(r.t.state);
-        Navigator again(r.t.ctx, host);
+        Navigator again(r.t.ctx, host, host);
         again.Load();
         again.LoadCatalogue();
         QCOMPARE(again.controls().cmbSavedLinks.items(), QStringList({"usa"}));

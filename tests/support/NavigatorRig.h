@@ -10,7 +10,7 @@ struct NavigatorRig
 {
     TestContext t;
     RecordingHost host{t.state};
-    Navigator nav{t.ctx, host};
+    Navigator nav{t.ctx, host, host};
     NavigatorControls& c = nav.controls();
     AddressComposer& composer = nav.composer();
 

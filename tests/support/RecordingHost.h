@@ -1,15 +1,17 @@
 #pragma once
 
 #include "navigator/NavigatorHost.h"
+#include "navigator/NavigatorWindows.h"
 
 #include <QStringList>
 #include <functional>
 
 struct SharedState;
 
-// A NavigatorHost that keeps its window place in memory and writes down
-// every call, in order, as a short text ("navigate <url>", "stop", ...).
-class RecordingHost : public NavigatorHost
+// The Navigator's window and the other windows in one: keeps its window
+// place in memory and writes down every call, in order, as a short text
+// ("navigate <url>", "stop", ...).
+class RecordingHost : public NavigatorHost, public NavigatorWindows
 {
 public:
     explicit RecordingHost(SharedState& state) : m_state(state) {}
