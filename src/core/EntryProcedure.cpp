@@ -1,6 +1,7 @@
 #include "EntryProcedure.h"
 
 #include "AppContext.h"
+#include "FileServices.h"
 #include "HelpPages.h"
 #include "SettingsKeys.h"
 #include "StartupUi.h"
@@ -14,6 +15,30 @@
 #include <QFileInfo>
 #include <exception>
 
+namespace {
+
+// A step on a data file that could not be done. The files stay as they were;
+// the user is told what failed, and the start ends without the corrupt
+// question and without touching the settings.
+struct DataFileFailure
+{
+    QStringList lines;
+};
+
+constexpr auto DataFileFailureTitle = "Database Copy Failed!";
+
+[[noreturn]] void failStep(QStringList what, const QString& reason)
+{
+    what.prepend(QStringLiteral("Warning!!!\r"));
+    what << QStringLiteral("(") + reason + QLatin1Char(')')
+         << QStringLiteral("Nothing has been deleted.")
+         << QStringLiteral("Free some disk space or make the folder")
+         << QStringLiteral("writable, then start Vorlan again.");
+    throw DataFileFailure{what};
+}
+
+} // namespace
+
 EntryProcedure::EntryProcedure(AppContext& ctx, StartupUi& ui) : m_ctx(ctx), m_ui(ui) {}
 
 bool EntryProcedure::LooksLikeUrl(const QString& lowered)
@@ -23,6 +48,16 @@ bool EntryProcedure::LooksLikeUrl(const QString& lowered)
     const QString scheme = lowered.left(7);
     return scheme == QLatin1String("http://") || scheme == QLatin1String("mailto:") ||
            lowered.right(3) == QLatin1String("url");
+}
+
+bool EntryProcedure::DesktopMayOpen(const QString& commandLine)
+{
+    const QString lowered = commandLine.toLower();
+    for (const char* scheme : {"http://", "https://", "mailto:"}) {
+        if (lowered.startsWith(QLatin1String(scheme)))
+            return true;
+    }
+    return lowered.endsWith(QLatin1String(".url")) && QFileInfo(commandLine).isFile();
 }
 
 QStringList EntryProcedure::CorruptLines()
@@ -37,10 +72,10 @@ bool EntryProcedure::run(const QString& commandLine)
     SharedState& st = m_ctx.state;
     st.gstrAppName = Version::AppName();
     try {
+        // Lowered for the tests only: paths and many servers are case-sensitive.
         const QString lowered = commandLine.toLower();
         if (lowered == QLatin1String("/?")) {
-            m_ctx.prompts.openExternally(
-                HelpPages::extractTo(QDir::tempPath() + QStringLiteral("/vorlan-help")));
+            m_ctx.prompts.openExternally(HelpPages::extractTo(HelpPages::desktopFolder()));
             return false;
         }
         st.gblnCommandUrl = LooksLikeUrl(lowered);
@@ -50,7 +85,8 @@ bool EntryProcedure::run(const QString& commandLine)
         } else if (prevInstance && st.gblnCommandUrl) {
             // The program never talks to the first instance: the address
             // goes to the desktop, and this one loads and leaves.
-            m_ctx.prompts.openExternally(lowered);
+            if (DesktopMayOpen(commandLine))
+                m_ctx.prompts.openExternally(commandLine);
             st.gblnHandedOff = true;
         } else if (prevInstance) {
             return false;
@@ -66,8 +102,13 @@ bool EntryProcedure::run(const QString& commandLine)
         } else {
             createMissing(backupExists);
         }
-        loadData(lowered);
+        loadData(commandLine);
         return !st.gblnHandedOff;
+    } catch (const DataFileFailure& failure) {
+        m_ui.unloadSplash();
+        ShowLines(m_ctx.prompts, failure.lines, QLatin1String(DataFileFailureTitle), false);
+        m_ctx.gdbMain.close();
+        return false;
     } catch (const std::exception&) {
         settingsErrorRoute();
         return false;
@@ -104,21 +145,23 @@ void EntryProcedure::dataFolder()
     st.gstrGeoBckUp = st.gstrDataPath + QStringLiteral("GeoBckUp.db");
 }
 
-// A read-only file left by a former copy never blocks the start.
+// A read-only file left by a former copy never blocks the start. The files
+// hold the user's addresses and notes: they are the owner's alone.
 void EntryProcedure::clearAttributes()
 {
     for (const QString& path : {m_ctx.state.gstrGeoBckUp, m_ctx.state.gstrGeoData}) {
         if (QFileInfo::exists(path))
-            QFile::setPermissions(path, QFile::permissions(path) | QFile::ReadOwner |
-                                            QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
+            QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
     }
 }
 
+// The copy replaces the target only once it is whole; one that fails is no
+// sign of a bad file and leaves both files as they were.
 void EntryProcedure::copyOver(const QString& from, const QString& to)
 {
-    QFile::remove(to);
-    if (!QFile::copy(from, to))
-        throw DbError("Cannot copy " + from.toStdString() + " to " + to.toStdString());
+    const QString failure = ReplaceByCopy(from, to);
+    if (!failure.isEmpty())
+        failStep({QStringLiteral("Could not copy"), from, QStringLiteral("to"), to}, failure);
 }
 
 // The working file is checked table by table. A bad one is replaced by the
@@ -129,17 +172,16 @@ bool EntryProcedure::verifyOrRecover(bool backupExists)
     SharedState& st = m_ctx.state;
     bool bad = !VerifyMainDatabase(st.gstrGeoData, st.gastrTables);
     if (bad && backupExists) {
-        QFile::remove(st.gstrGeoData);
-        if (QFile::copy(st.gstrGeoBckUp, st.gstrGeoData))
-            bad = !VerifyMainDatabase(st.gstrGeoData, st.gastrTables);
+        copyOver(st.gstrGeoBckUp, st.gstrGeoData);
+        bad = !VerifyMainDatabase(st.gstrGeoData, st.gastrTables);
     }
     if (bad) {
         if (!ShowLines(m_ctx.prompts, CorruptLines(), QStringLiteral("Corrupt Database!"), true))
             return false;
-        QFile::remove(st.gstrGeoData);
+        QFile bad(st.gstrGeoData);
+        if (!bad.remove())
+            failStep({QStringLiteral("Could not delete"), st.gstrGeoData}, bad.errorString());
         CreateMainDatabase(st);
-        copyOver(st.gstrGeoData, st.gstrGeoBckUp);
-        return true;
     }
     copyOver(st.gstrGeoData, st.gstrGeoBckUp);
     return true;
@@ -158,7 +200,7 @@ void EntryProcedure::createMissing(bool backupExists)
     m_ui.unloadSplash();
 }
 
-void EntryProcedure::loadData(const QString& lowered)
+void EntryProcedure::loadData(const QString& commandLine)
 {
     SharedState& st = m_ctx.state;
     m_ui.showSplash(QStringLiteral("    Loading Data..."));
@@ -171,7 +213,7 @@ void EntryProcedure::loadData(const QString& lowered)
         return;
     }
     if (st.gblnOpenCommandUrl)
-        navigator.NavigateSomeWhereElse(lowered);
+        navigator.NavigateSomeWhereElse(commandLine);
     m_ui.showMainWindow();
 }
 

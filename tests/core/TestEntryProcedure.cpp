@@ -1,3 +1,4 @@
+#include "FileFaults.h"
 #include "RecordingHost.h"
 #include "TestContext.h"
 #include "addressdata/MainDatabase.h"
@@ -13,6 +14,7 @@
 #include <QThread>
 #include <QtTest>
 #include <memory>
+#include <sys/stat.h>
 
 namespace {
 
@@ -93,6 +95,17 @@ bool hasMarkerLink(const QString& path)
     const bool found = db.recordCount("UsaSaved") == 1;
     db.close();
     return found;
+}
+
+// Pads a sound database to some megabytes, more than a nearly full disk
+// takes.
+void makeLarge(const QString& path)
+{
+    TextDatabase db("large");
+    db.open(path);
+    QVector<QStringList> rows(12000, QStringList{QString(250, QLatin1Char('t'))});
+    db.append("wbtBadTitles", {"BadTitle"}, rows);
+    db.close();
 }
 
 // A program folder with a sound GeoData.db and GeoBckUp.db, made by a first start.
@@ -230,15 +243,119 @@ private slots:
         QVERIFY(VerifyMainDatabase(s.backup(), s.t.state.gastrTables));
     }
 
+    void aCopyThatFailsIsNoBadBackup_data()
+    {
+        QTest::addColumn<bool>("restoring");
+        QTest::newRow("restoring the backup") << true;
+        QTest::newRow("refreshing the backup") << false;
+    }
+    void aCopyThatFailsIsNoBadBackup()
+    {
+        QFETCH(bool, restoring);
+        Start s;
+        firstStart(s);
+        addMarkerLink(restoring ? s.backup() : s.data());
+        if (restoring) {
+            makeLarge(s.backup());
+            writeAll(s.data(), "garbage");
+        } else {
+            makeLarge(s.data());
+        }
+        const QByteArray data = readAll(s.data());
+        const QByteArray backup = readAll(s.backup());
+        {
+            const FileSizeLimit diskNearlyFull(1 << 20);
+            QVERIFY(!s.run());
+        }
+        // Told plainly, not asked about a corrupt database.
+        QCOMPARE(s.t.prompts.shown.size(), 1);
+        QCOMPARE(s.t.prompts.shown[0].title, QString("Database Copy Failed!"));
+        QVERIFY(s.t.prompts.shown[0].text.contains("(File too large)"));
+        QVERIFY(!s.ui.mainShown);
+        QVERIFY(!s.t.db.isOpen());
+        QCOMPARE(readAll(s.data()), data);
+        QCOMPARE(readAll(s.backup()), backup);
+        QCOMPARE(QDir(s.t.folders.appPath()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+        QCOMPARE(s.t.ctx.GetSetting("Startup", "AdvOptInit"), QString("1"));
+
+        // With room again the same start goes through.
+        s.t.prompts.clear();
+        QVERIFY(s.run());
+        QVERIFY(s.t.prompts.shown.isEmpty());
+        QVERIFY(hasMarkerLink(s.data()));
+    }
+
+    void aReadOnlyDataFolderKeepsBothFiles()
+    {
+        Start s;
+        firstStart(s);
+        addMarkerLink(s.backup());
+        writeAll(s.data(), "garbage");
+        const QByteArray backup = readAll(s.backup());
+        {
+            const ReadOnlyFolder locked(s.t.folders.appPath());
+            if (!locked.refusesFiles())
+                QSKIP("this file system lets the test write into any folder");
+            s.t.prompts.answer(PromptService::Yes); // for a question that must not come
+            QVERIFY(!s.run());
+        }
+        QCOMPARE(s.t.prompts.shown.size(), 1);
+        QCOMPARE(s.t.prompts.shown[0].title, QString("Database Copy Failed!"));
+        QCOMPARE(readAll(s.data()), QByteArray("garbage"));
+        QCOMPARE(readAll(s.backup()), backup);
+    }
+
     void readOnlyFilesDoNotBlockTheStart()
     {
         Start s;
         firstStart(s);
-        QFile::setPermissions(s.data(), QFile::ReadOwner);
-        QFile::setPermissions(s.backup(), QFile::ReadOwner);
+        // Read-only, and readable by all, as a former version left them.
+        const auto readOnly = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+        QFile::setPermissions(s.data(), readOnly);
+        QFile::setPermissions(s.backup(), readOnly);
         QVERIFY(s.run());
-        QVERIFY(QFile::permissions(s.data()) & QFile::WriteOwner);
-        QVERIFY(QFile::permissions(s.backup()) & QFile::WriteOwner);
+        // Writable again, and the owner's alone: they hold saved addresses and notes.
+        for (const QString& file : {s.data(), s.backup()}) {
+            struct stat st;
+            QCOMPARE(::stat(QFile::encodeName(file).constData(), &st), 0);
+            QCOMPARE(st.st_mode & 0777, 0600u);
+        }
+    }
+
+    void aLongNoteFromElsewhereKeepsTheFile()
+    {
+        Start s;
+        firstStart(s);
+        {
+            TextDatabase db("long");
+            db.open(s.data());
+            QSqlQuery other(db.handle());
+            QVERIFY(other.exec("PRAGMA ignore_check_constraints = ON"));
+            QVERIFY(other.exec("INSERT INTO UsaSaved VALUES ('SoHo', '', '1234', '" +
+                               QString(300, QLatin1Char('n')) + "', '')"));
+        }
+        QVERIFY(s.run());
+        QVERIFY(s.t.prompts.shown.isEmpty());
+        QVERIFY(hasMarkerLink(s.data()));
+        QVERIFY(hasMarkerLink(s.backup()));
+    }
+
+    void aSavedLinksTableWithoutAFieldIsCorrupt()
+    {
+        Start s;
+        firstStart(s);
+        addMarkerLink(s.backup());
+        {
+            TextDatabase db("narrow");
+            db.open(s.data());
+            QVERIFY(QSqlQuery(db.handle()).exec("ALTER TABLE UsaSaved DROP COLUMN Comment"));
+        }
+        QVERIFY(s.run());
+        QVERIFY(s.t.prompts.shown.isEmpty());
+        // The sound backup took its place, and stays the backup.
+        QVERIFY(VerifyMainDatabase(s.data(), s.t.state.gastrTables));
+        QVERIFY(hasMarkerLink(s.data()));
+        QVERIFY(hasMarkerLink(s.backup()));
     }
 
     void aDamagedSettingsFileTakesTheSettingsErrorRoute()
@@ -275,7 +392,11 @@ private slots:
         Start s;
         QVERIFY(!s.run("/?"));
         QCOMPARE(s.t.prompts.opened.size(), 1);
-        QVERIFY(QFileInfo(s.t.prompts.opened.first()).isFile());
+        const QFileInfo index(s.t.prompts.opened.first());
+        QVERIFY(index.isFile());
+        // In a folder of the user's own, closed to others.
+        QVERIFY(index.absoluteFilePath().startsWith(s.t.folders.root() + "/cache/"));
+        QCOMPARE(QFileInfo(index.absolutePath()).permissions() & 0x0077, QFile::Permissions());
         QVERIFY(!QFile::exists(s.data()));
         QVERIFY(s.ui.splash.isEmpty());
 
@@ -304,8 +425,9 @@ private slots:
         QVERIFY(s.run(line));
         QCOMPARE(s.t.state.gblnOpenCommandUrl, url);
         QCOMPARE(!s.ui.host->navigated().isEmpty(), url);
+        // Lowered for the tests only, opened as given.
         if (url)
-            QVERIFY(s.ui.host->navigated().first().endsWith(line.toLower()));
+            QVERIFY(s.ui.host->navigated().first().endsWith(line));
     }
 
     void aSecondInstanceWithoutAnAddressLeavesNoTrace()
@@ -318,12 +440,42 @@ private slots:
         QVERIFY(s.t.prompts.shown.isEmpty() && s.t.prompts.opened.isEmpty());
     }
 
+    void aSecondInstanceHandsOnlyWebAndMailAddressesOn_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<bool>("opened");
+        QTest::newRow("mail") << "mailto:Someone@Example.org" << true;
+        QTest::newRow("https shortcut") << "HTTPS://example.org/Page.url" << true;
+        QTest::newRow("existing shortcut") << "shortcut" << true;
+        QTest::newRow("missing shortcut") << "/nowhere/Page.url" << false;
+        QTest::newRow("script") << "javascript:alert(1)//url" << false;
+        QTest::newRow("local file") << "file:///etc/passwd#.url" << false;
+        QTest::newRow("data") << "data:text/html,<b>hi</b>url" << false;
+    }
+    void aSecondInstanceHandsOnlyWebAndMailAddressesOn()
+    {
+        QFETCH(QString, line);
+        QFETCH(bool, opened);
+        Start s;
+        if (line == "shortcut") {
+            line = s.t.folders.root() + "/Home Page.URL";
+            writeAll(line, "[InternetShortcut]\r\nURL=http://www.geocities.com/\r\n");
+        }
+        s.ui.prevInstance = true;
+        QVERIFY(!s.run(line));
+        QCOMPARE(s.t.prompts.opened, opened ? QStringList{line} : QStringList());
+        // Either way this instance loads, saves its settings and leaves.
+        QVERIFY(s.t.state.gblnHandedOff);
+        QVERIFY(!s.ui.mainShown);
+        QCOMPARE(s.ui.host->calls.last(), QString("end"));
+    }
+
     void aSecondInstanceHandsItsAddressOnAndLeaves()
     {
         Start s;
         s.ui.prevInstance = true;
         QVERIFY(!s.run("http://www.geocities.com/Paris/1234/"));
-        QCOMPARE(s.t.prompts.opened, QStringList{"http://www.geocities.com/paris/1234/"});
+        QCOMPARE(s.t.prompts.opened, QStringList{"http://www.geocities.com/Paris/1234/"});
         QVERIFY(s.t.state.gblnHandedOff);
         QVERIFY(!s.ui.mainShown);
         QCOMPARE(s.ui.host->calls.last(), QString("end"));
