@@ -369,11 +369,28 @@ private slots:
             s.t.prompts.messages(),
             QStringList{"A settings error was encountered!\rYou will need to restart Vorlan!"});
         QVERIFY(!QFile::exists(s.t.settings.filePath("Vorlan 1.0")));
+        // What was in it is kept beside it.
+        QCOMPARE(readAll(s.t.settings.filePath("Vorlan 1.0") + ".bak"),
+                 QByteArray("\x01\x02\x00junk", 7));
         QVERIFY(hasMarkerLink(s.data())); // the data stays
         // The next start is a first use again, on the same data.
         s.t.prompts.clear();
         QVERIFY(s.run());
         QVERIFY(hasMarkerLink(s.data()));
+    }
+
+    void settingsOfAnotherToolSurviveTheStart()
+    {
+        Start s;
+        firstStart(s);
+        // Single-byte text with names in any case, as other tools write it.
+        writeAll(s.t.settings.filePath("Vorlan 1.0"),
+                 "[StartUp]\r\nADVOPTINIT=1\r\nPath=" + s.t.folders.appPath().toLatin1() +
+                     "\r\nNeigh=Paris\r\n[FTP]\r\nGeoCities Password=p\xe4ss\r\n");
+        QVERIFY(s.run());
+        QVERIFY(s.t.prompts.shown.isEmpty());
+        QCOMPARE(s.ui.navigator->controls().cmbNeighborhood.text(), QString("Paris"));
+        QCOMPARE(s.t.ctx.GetSetting("FTP", "GeoCities Password"), QString::fromUtf8("p\u00e4ss"));
     }
 
     void aWaitTooLongFor16BitsTakesTheSettingsErrorRoute()
