@@ -16,9 +16,18 @@ QString field(const TextRecord& record, int index, const QString& table)
     return NullToEmpty(record.fields[index]);
 }
 
-void readNeighborhoods(AppContext& ctx, TextDatabase& db, const QString& table)
+// The fields come by their names in the table of names, in that order,
+// wherever the table holds them.
+QVector<TextRecord> readTable(AppContext& ctx, TextDatabase& db, int index)
 {
-    const QVector<TextRecord> records = db.readAll(table);
+    const TableNameArray& tables = ctx.state.gastrTables;
+    return db.readAll(tables[index][0], FieldNames(tables, index));
+}
+
+void readNeighborhoods(AppContext& ctx, TextDatabase& db, int index)
+{
+    const QString table = ctx.state.gastrTables[index][0];
+    const QVector<TextRecord> records = readTable(ctx, db, index);
     if (records.isEmpty())
         throw DbError(("No Neighborhoods in " + table).toStdString());
 
@@ -53,10 +62,11 @@ int neighborhoodOf(const QString& index, int count)
     return 0;
 }
 
-void readSuburbs(AppContext& ctx, TextDatabase& db, const QString& table)
+void readSuburbs(AppContext& ctx, TextDatabase& db, int index)
 {
+    const QString table = ctx.state.gastrTables[index][0];
     CatalogueData& cat = ctx.state.catalogue;
-    for (const TextRecord& record : db.readAll(table)) {
+    for (const TextRecord& record : readTable(ctx, db, index)) {
         const int i = neighborhoodOf(field(record, 0, table), cat.gintNeighborhoodCount);
         if (i == 0)
             continue;
@@ -77,9 +87,8 @@ void readSuburbs(AppContext& ctx, TextDatabase& db, const QString& table)
 void ReadCatalogue(AppContext& ctx, TextDatabase& db)
 {
     const int neighborhoods = ctx.state.gblnJapan ? Tbl::JapanNeighborhoods : Tbl::UsaNeighborhoods;
-    const TableNameArray& tables = ctx.state.gastrTables;
-    readNeighborhoods(ctx, db, tables[neighborhoods][0]);
-    readSuburbs(ctx, db, tables[neighborhoods + 1][0]);
+    readNeighborhoods(ctx, db, neighborhoods);
+    readSuburbs(ctx, db, neighborhoods + 1);
 }
 
 void WarnMaxSuburbs(PromptService& prompts, const QString& name)

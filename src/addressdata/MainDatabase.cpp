@@ -90,7 +90,8 @@ bool VerifyMainDatabase(const QString& path, const TableNameArray& tables)
     bool sound = true;
     for (int index = 0; index < Tbl::MainTableCount; ++index) {
         try {
-            db.readAll(tables[index][0]);
+            // By name: a table without one of its fields fails here.
+            db.readAll(tables[index][0], FieldNames(tables, index));
         } catch (const DbError&) {
             sound = false;
         }

@@ -20,6 +20,8 @@ void CreateMainDatabase(SharedState& state);
 // the failures of other actions stop here.
 void DatabaseAction(AppContext& ctx, int code);
 
-// Opens the file and reads each of tables 0 to 10 whole. Every table is
-// tried even when one fails; false when the file or any table failed.
+// Opens the file and reads each of tables 0 to 10 whole, by its field
+// names. Every table is tried even when one fails; false when the file
+// cannot be opened or lacks a table or one of its fields. Texts over the
+// length limit do not count against it.
 bool VerifyMainDatabase(const QString& path, const TableNameArray& tables);

@@ -40,9 +40,10 @@ public:
     TextDatabase(const TextDatabase&) = delete;
     TextDatabase& operator=(const TextDatabase&) = delete;
 
-    // Opens an existing file or, with create set, makes a new one. Throws
-    // DbError when the file cannot be opened or is not a database, which
-    // includes an empty file and one with damaged pages.
+    // Opens an existing file or, with create set, makes a new one, readable
+    // and writable by its owner only. Throws DbError when the file cannot be
+    // opened or is not a database, which includes an empty file and one with
+    // damaged pages; texts over the length limit do not make it damaged.
     void open(const QString& path, bool create = false);
     void close();
     bool isOpen() const;

@@ -1,6 +1,7 @@
 #include "EntryProcedure.h"
 
 #include "AppContext.h"
+#include "FileServices.h"
 #include "HelpPages.h"
 #include "MainDataFiles.h"
 #include "SettingsKeys.h"
@@ -12,6 +13,30 @@
 #include <QFileInfo>
 #include <exception>
 #include <stdexcept>
+
+namespace {
+
+// A step on a data file that could not be done. The files stay as they were;
+// the user is told what failed, and the start ends without the corrupt
+// question and without touching the settings.
+struct DataFileFailure
+{
+    QStringList lines;
+};
+
+constexpr auto DataFileFailureTitle = "Database Copy Failed!";
+
+[[noreturn]] void failStep(QStringList what, const QString& reason)
+{
+    what.prepend(QStringLiteral("Warning!!!\r"));
+    what << QStringLiteral("(") + reason + QLatin1Char(')')
+         << QStringLiteral("Nothing has been deleted.")
+         << QStringLiteral("Free some disk space or make the folder")
+         << QStringLiteral("writable, then start Vorlan again.");
+    throw DataFileFailure{what};
+}
+
+} // namespace
 
 EntryProcedure::EntryProcedure(AppContext& ctx, StartupUi& ui, MainDataFiles& files)
     : m_ctx(ctx), m_ui(ui), m_files(files)
@@ -27,6 +52,16 @@ bool EntryProcedure::LooksLikeUrl(const QString& lowered)
            lowered.right(3) == QLatin1String("url");
 }
 
+bool EntryProcedure::DesktopMayOpen(const QString& commandLine)
+{
+    const QString lowered = commandLine.toLower();
+    for (const char* scheme : {"http://", "https://", "mailto:"}) {
+        if (lowered.startsWith(QLatin1String(scheme)))
+            return true;
+    }
+    return lowered.endsWith(QLatin1String(".url")) && QFileInfo(commandLine).isFile();
+}
+
 QStringList EntryProcedure::CorruptLines()
 {
     return {QStringLiteral("Warning!!!\r"),           QStringLiteral("The database is corrupt"),
@@ -39,10 +74,10 @@ bool EntryProcedure::run(const QString& commandLine)
     SharedState& st = m_ctx.state;
     st.gstrAppName = Version::AppName();
     try {
+        // Lowered for the tests only: paths and many servers are case-sensitive.
         const QString lowered = commandLine.toLower();
         if (lowered == QLatin1String("/?")) {
-            m_ctx.prompts.openExternally(
-                HelpPages::extractTo(QDir::tempPath() + QStringLiteral("/vorlan-help")));
+            m_ctx.prompts.openExternally(HelpPages::extractTo(HelpPages::desktopFolder()));
             return false;
         }
         st.gblnCommandUrl = LooksLikeUrl(lowered);
@@ -52,7 +87,8 @@ bool EntryProcedure::run(const QString& commandLine)
         } else if (prevInstance && st.gblnCommandUrl) {
             // The program never talks to the first instance: the address
             // goes to the desktop, and this one loads and leaves.
-            m_ctx.prompts.openExternally(lowered);
+            if (DesktopMayOpen(commandLine))
+                m_ctx.prompts.openExternally(commandLine);
             st.gblnHandedOff = true;
         } else if (prevInstance) {
             return false;
@@ -68,8 +104,13 @@ bool EntryProcedure::run(const QString& commandLine)
         } else {
             createMissing(backupExists);
         }
-        loadData(lowered);
+        loadData(commandLine);
         return !st.gblnHandedOff;
+    } catch (const DataFileFailure& failure) {
+        m_ui.unloadSplash();
+        ShowLines(m_ctx.prompts, failure.lines, QLatin1String(DataFileFailureTitle), false);
+        m_files.Close();
+        return false;
     } catch (const std::exception&) {
         settingsErrorRoute();
         return false;
@@ -106,21 +147,23 @@ void EntryProcedure::dataFolder()
     st.gstrGeoBckUp = st.gstrDataPath + QStringLiteral("GeoBckUp.db");
 }
 
-// A read-only file left by a former copy never blocks the start.
+// A read-only file left by a former copy never blocks the start. The files
+// hold the user's addresses and notes: they are the owner's alone.
 void EntryProcedure::clearAttributes()
 {
     for (const QString& path : {m_ctx.state.gstrGeoBckUp, m_ctx.state.gstrGeoData}) {
         if (QFileInfo::exists(path))
-            QFile::setPermissions(path, QFile::permissions(path) | QFile::ReadOwner |
-                                            QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
+            QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
     }
 }
 
+// The copy replaces the target only once it is whole; one that fails is no
+// sign of a bad file and leaves both files as they were.
 void EntryProcedure::copyOver(const QString& from, const QString& to)
 {
-    QFile::remove(to);
-    if (!QFile::copy(from, to))
-        throw std::runtime_error("Cannot copy " + from.toStdString() + " to " + to.toStdString());
+    const QString failure = ReplaceByCopy(from, to);
+    if (!failure.isEmpty())
+        failStep({QStringLiteral("Could not copy"), from, QStringLiteral("to"), to}, failure);
 }
 
 // The working file is checked table by table. A bad one is replaced by the
@@ -131,17 +174,16 @@ bool EntryProcedure::verifyOrRecover(bool backupExists)
     SharedState& st = m_ctx.state;
     bool bad = !m_files.Verify(st.gstrGeoData);
     if (bad && backupExists) {
-        QFile::remove(st.gstrGeoData);
-        if (QFile::copy(st.gstrGeoBckUp, st.gstrGeoData))
-            bad = !m_files.Verify(st.gstrGeoData);
+        copyOver(st.gstrGeoBckUp, st.gstrGeoData);
+        bad = !m_files.Verify(st.gstrGeoData);
     }
     if (bad) {
         if (!ShowLines(m_ctx.prompts, CorruptLines(), QStringLiteral("Corrupt Database!"), true))
             return false;
-        QFile::remove(st.gstrGeoData);
+        QFile bad(st.gstrGeoData);
+        if (!bad.remove())
+            failStep({QStringLiteral("Could not delete"), st.gstrGeoData}, bad.errorString());
         m_files.Create();
-        copyOver(st.gstrGeoData, st.gstrGeoBckUp);
-        return true;
     }
     copyOver(st.gstrGeoData, st.gstrGeoBckUp);
     return true;
@@ -160,7 +202,7 @@ void EntryProcedure::createMissing(bool backupExists)
     m_ui.unloadSplash();
 }
 
-void EntryProcedure::loadData(const QString& lowered)
+void EntryProcedure::loadData(const QString& commandLine)
 {
     SharedState& st = m_ctx.state;
     m_ui.showSplash(QStringLiteral("    Loading Data..."));
@@ -173,7 +215,7 @@ void EntryProcedure::loadData(const QString& lowered)
         return;
     }
     if (st.gblnOpenCommandUrl)
-        navigator.NavigateSomeWhereElse(lowered);
+        navigator.NavigateSomeWhereElse(commandLine);
     m_ui.showMainWindow();
 }
 

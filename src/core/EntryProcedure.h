@@ -22,6 +22,10 @@ public:
     // Whether the (lowered) command line counts as a URL.
     static bool LooksLikeUrl(const QString& lowered);
 
+    // Whether a second instance may hand its command line to the desktop: a
+    // web or mail address, or a shortcut file that exists.
+    static bool DesktopMayOpen(const QString& commandLine);
+
     static QStringList CorruptLines();
 
 private:
@@ -30,7 +34,7 @@ private:
     void clearAttributes();
     bool verifyOrRecover(bool backupExists);
     void createMissing(bool backupExists);
-    void loadData(const QString& lowered);
+    void loadData(const QString& commandLine);
     void settingsErrorRoute();
     void copyOver(const QString& from, const QString& to);
 

@@ -5,12 +5,16 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryFile>
+#include <cerrno>
+#include <cstdio>
+#include <unistd.h>
 
 QString UniqueFileName(const QString& path)
 {
     if (!QFileInfo::exists(path))
         return path;
-    const int dot = path.indexOf(QLatin1Char('.'));
+    const int dot = path.indexOf(QLatin1Char('.'), path.lastIndexOf(QLatin1Char('/')) + 1);
     const QString base = dot < 0 ? path : path.left(dot);
     const QString extension = dot < 0 ? QString() : path.mid(dot);
     for (int n = 1;; ++n) {
@@ -61,4 +65,35 @@ bool FileReadable(const QString& path)
         return false;
     file.readAll();
     return file.error() == QFile::NoError;
+}
+
+QString ReplaceByCopy(const QString& from, const QString& to)
+{
+    QFile source(from);
+    if (!source.open(QIODevice::ReadOnly))
+        return source.errorString();
+    const QFileInfo target(to);
+    QTemporaryFile copy(target.absolutePath() + QLatin1Char('/') + target.fileName() +
+                        QStringLiteral(".XXXXXX"));
+    if (!copy.open())
+        return copy.errorString();
+    constexpr qint64 Chunk = 1 << 20;
+    for (;;) {
+        const QByteArray bytes = source.read(Chunk);
+        if (source.error() != QFile::NoError)
+            return source.errorString();
+        if (bytes.isEmpty())
+            break;
+        if (copy.write(bytes) != bytes.size())
+            return copy.errorString();
+    }
+    // The data must be on the disk before the name points to it.
+    if (!copy.flush())
+        return copy.errorString();
+    if (::fsync(copy.handle()) != 0 ||
+        std::rename(QFile::encodeName(copy.fileName()).constData(),
+                    QFile::encodeName(target.absoluteFilePath()).constData()) != 0)
+        return qt_error_string(errno);
+    copy.setAutoRemove(false);
+    return QString();
 }

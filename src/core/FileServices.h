@@ -10,9 +10,16 @@ struct AppContext;
 
 // The wished path if nothing exists there, else the first free one with
 // 1, 2, ... put between its base and its extension. The extension starts at
-// the first "." of the whole path, so a dot in a folder name splits early:
-// "/a/my.dir/page.htm" becomes "/a/my1.dir/page.htm".
+// the first "." of the file name, so "/a/my.dir/page.tar.gz" becomes
+// "/a/my.dir/page1.tar.gz": the data folder itself has a dot in its path.
 QString UniqueFileName(const QString& path);
+
+// Copies from over to: the copy is made under a new name in to's folder,
+// readable by its owner only, and renamed over to once it is complete, so
+// that to is never missing or half written. Returns the empty text, or what
+// failed in the system's words ("No space left on device"); on failure to
+// is as it was and no new file is left behind.
+QString ReplaceByCopy(const QString& from, const QString& to);
 
 // The text up to and including the last separator; empty if there is none.
 QString PathBeforeLast(const QString& text, QChar separator);

@@ -4,6 +4,8 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
+#include <unistd.h>
 
 // The pages are compiled into a static library, whose resources are not
 // registered on their own; this must stay outside any namespace.
@@ -18,13 +20,34 @@ static void registerHelpResources()
 
 namespace {
 const QString Root = QStringLiteral(":/help");
+constexpr QFile::Permissions OwnerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+
+// A folder that only this user can write to: made with mode 0700, or, when
+// it is there already, a real folder of this user, closed to others. A
+// link or a folder of someone else is refused: its pages could be planted.
+bool makePrivateFolder(const QString& folder)
+{
+    const QFileInfo info(folder);
+    if (info.isSymLink())
+        return false;
+    if (!info.exists())
+        return QDir().mkpath(info.absolutePath()) && QDir().mkdir(folder, OwnerOnly);
+    return info.isDir() && info.ownerId() == ::geteuid() &&
+           QFile::setPermissions(folder, OwnerOnly);
+}
 } // namespace
+
+QString HelpPages::desktopFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+           QStringLiteral("/Vorlan/help");
+}
 
 QString HelpPages::extractTo(const QString& folder)
 {
     registerHelpResources();
     const QDir target(folder);
-    if (!target.mkpath(QStringLiteral(".")))
+    if (!makePrivateFolder(folder))
         return QString();
     QDirIterator pages(Root, QDir::Files, QDirIterator::Subdirectories);
     while (pages.hasNext()) {

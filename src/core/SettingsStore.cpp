@@ -1,11 +1,13 @@
 #include "SettingsStore.h"
 
+#include "IniText.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QStringDecoder>
+#include <cstdio>
 #include <exception>
 
 namespace {
@@ -15,28 +17,26 @@ QString normalKey(const QString& section, const QString& key)
     return section.toLower() + QLatin1Char('/') + key.toLower();
 }
 
-// QSettings forgives almost anything; a file that is not line-based text of
-// sections and key=value pairs is damaged, not merely empty.
-bool looksLikeIni(const QByteArray& bytes)
+bool readIni(QIODevice& device, QSettings::SettingsMap& map)
 {
-    if (bytes.contains('\0'))
-        return false;
-    QStringDecoder utf8(QStringDecoder::Utf8);
-    const QString text = utf8.decode(bytes);
-    if (utf8.hasError())
-        return false;
-    const auto lines = text.split(QLatin1Char('\n'));
-    for (const QString& raw : lines) {
-        const QString line = raw.trimmed();
-        if (line.isEmpty() || line.startsWith(QLatin1Char(';')) ||
-            line.startsWith(QLatin1Char('#')))
-            continue;
-        if (line.startsWith(QLatin1Char('[')) ? !line.endsWith(QLatin1Char(']'))
-                                              : !line.contains(QLatin1Char('=')))
-            return false;
-    }
-    return true;
+    return IniText::read(device.readAll(), map);
 }
+
+bool writeIni(QIODevice& device, const QSettings::SettingsMap& map)
+{
+    const QByteArray text = IniText::write(map);
+    return device.write(text) == text.size();
+}
+
+// QSettings' own INI reader is case-sensitive and UTF-8 only.
+QSettings::Format iniFormat()
+{
+    static const QSettings::Format format =
+        QSettings::registerFormat(QStringLiteral("ini"), readIni, writeIni);
+    return format;
+}
+
+constexpr QFile::Permissions OwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
 
 } // namespace
 
@@ -62,14 +62,20 @@ QSettings& SettingsStore::open(const QString& app) const
     if (it != m_files.end() && it->modified == info.lastModified() &&
         it->size == (info.exists() ? info.size() : -1))
         return *it->settings;
-    QFile file(path);
-    if (file.exists()) {
+    // A FIFO or a folder in its place is damaged, and never opened: reading
+    // a FIFO would wait for a writer. The text is checked here on every
+    // change, since QSettings keeps what it read of a file, sound or not.
+    if (info.exists()) {
+        QFile file(path);
+        if (!info.isFile())
+            throw SettingsError("The settings file is damaged: " + path.toStdString());
         if (!file.open(QIODevice::ReadOnly))
             throw SettingsError("The settings file cannot be read: " + path.toStdString());
-        if (!looksLikeIni(file.readAll()))
+        QSettings::SettingsMap entries;
+        if (!IniText::read(file.readAll(), entries))
             throw SettingsError("The settings file is damaged: " + path.toStdString());
     }
-    auto settings = std::make_shared<QSettings>(path, QSettings::IniFormat);
+    auto settings = std::make_shared<QSettings>(path, iniFormat());
     if (settings->status() != QSettings::NoError)
         throw SettingsError("The settings file is damaged: " + path.toStdString());
     m_files.insert(app, File{settings, info.lastModified(), info.exists() ? info.size() : -1});
@@ -95,6 +101,12 @@ void SettingsStore::SaveSetting(const QString& app, const QString& section, cons
 void SettingsStore::flush(const QString& app)
 {
     QSettings& s = open(app);
+    // It holds FTP passwords: the first file is made for its owner alone,
+    // and each later one is written beside it with its mode.
+    QFile file(filePath(app));
+    if (!file.exists() && !file.open(QIODevice::WriteOnly | QIODevice::NewOnly, OwnerOnly))
+        throw SettingsError("The settings file cannot be written: " + filePath(app).toStdString());
+    file.close();
     s.sync();
     if (s.status() != QSettings::NoError)
         throw SettingsError("The settings file cannot be written: " + filePath(app).toStdString());
@@ -113,10 +125,20 @@ SettingsStore::Batch::~Batch() noexcept(false)
         m_store.flush(m_app);
 }
 
+// What the user typed is kept beside the file as ".bak", for its owner
+// only; a file that cannot be moved aside is removed all the same.
 void SettingsStore::DeleteSetting(const QString& app)
 {
     m_files.remove(app);
-    QFile::remove(filePath(app));
+    const QString path = filePath(app);
+    const QFileInfo info(path);
+    if (!info.exists() && !info.isSymLink())
+        return;
+    if (info.isFile() && !info.isSymLink())
+        QFile::setPermissions(path, OwnerOnly);
+    if (std::rename(QFile::encodeName(path).constData(),
+                    QFile::encodeName(path + QStringLiteral(".bak")).constData()) != 0)
+        QFile::remove(path);
 }
 
 // The file as this store wrote it is known to be sound.
@@ -130,7 +152,12 @@ void SettingsStore::remember(const QString& app) const
     }
 }
 
+// A file of an older version, or one made by hand, is closed to others. One
+// that is right already is left alone.
 void SettingsStore::secure(const QString& app) const
 {
-    QFile::setPermissions(filePath(app), QFile::ReadOwner | QFile::WriteOwner);
+    const QString path = filePath(app);
+    const QFile::Permissions user = QFile::ReadUser | QFile::WriteUser | QFile::ExeUser;
+    if ((QFile::permissions(path) & ~user) != OwnerOnly)
+        QFile::setPermissions(path, OwnerOnly);
 }

@@ -18,8 +18,11 @@ public:
 
 // The per-user store of text values by application, section and key.
 // One INI file per application in the user's config folder; sections and
-// keys are compared without case; the file is readable by its owner only,
-// since it holds FTP passwords.
+// keys are compared without case, in the file as read too; a file that is
+// not UTF-8 is read as Windows-1252. The file is readable by its owner
+// only from its first moment, since it holds FTP passwords. A file that
+// cannot be read as settings, or a FIFO or folder in its place, is damaged:
+// every call throws SettingsError until DeleteSetting.
 class SettingsStore
 {
 public:
@@ -32,6 +35,8 @@ public:
                        const QString& defaultValue = QString()) const;
     void SaveSetting(const QString& app, const QString& section, const QString& key,
                      const QString& value);
+    // Removes the application's file, keeping it beside as ".ini.bak"
+    // (mode 0600), so that nothing the user typed is lost for good.
     void DeleteSetting(const QString& app);
 
     // Within a batch, writes reach the file once, when the batch ends.

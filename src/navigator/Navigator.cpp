@@ -237,22 +237,24 @@ void Navigator::JapanClick()
         m_c.cmbHouseNumberPrefix.text().trimmed() + m_c.cmbHouseNumberSuffix.text().trimmed();
     if (st.gblnTreeShown)
         GeoTreeClick(); // the tree shows one site only
-    if (m_c.mnuJapan.isChecked()) {
-        m_ctx.SaveSetting(Sect::Startup, Key::JapanNeighborhood, neighborhood);
-        m_ctx.SaveSetting(Sect::Startup, Key::JapanSuburb, suburb);
-        m_ctx.SaveSetting(Sect::Startup, Key::JapanHouseNumber, house);
-        m_c.form.setText(QStringLiteral("Navigate GeoCities USA"));
-        st.gblnJapan = false;
-        m_c.mnuJapan.setChecked(false);
-    } else {
-        m_ctx.SaveSetting(Sect::Startup, Key::Neigh, neighborhood);
-        m_ctx.SaveSetting(Sect::Startup, Key::Subrb, suburb);
-        m_ctx.SaveSetting(Sect::Startup, Key::HouseNumber, house);
-        m_c.form.setText(QStringLiteral("Navigate GeoCities Japan"));
-        st.gblnJapan = true;
-        m_c.mnuJapan.setChecked(true);
+    const bool leavingJapan = m_c.mnuJapan.isChecked();
+    // A failing store loses the address of the region left, not the switch.
+    try {
+        m_ctx.SaveSetting(Sect::Startup, leavingJapan ? Key::JapanNeighborhood : Key::Neigh,
+                          neighborhood);
+        m_ctx.SaveSetting(Sect::Startup, leavingJapan ? Key::JapanSuburb : Key::Subrb, suburb);
+        m_ctx.SaveSetting(Sect::Startup, leavingJapan ? Key::JapanHouseNumber : Key::HouseNumber,
+                          house);
+    } catch (const std::exception&) {
     }
-    SwitchRegionData(2);
+    m_c.form.setText(leavingJapan ? QStringLiteral("Navigate GeoCities USA")
+                                  : QStringLiteral("Navigate GeoCities Japan"));
+    st.gblnJapan = !leavingJapan;
+    m_c.mnuJapan.setChecked(!leavingJapan);
+    try {
+        SwitchRegionData(2);
+    } catch (const std::exception&) {
+    }
 }
 
 void Navigator::OnTopClick()
@@ -365,7 +367,12 @@ void Navigator::PictureClick()
 void Navigator::Unload()
 {
     SharedState& st = m_ctx.state;
-    SaveMainSettings();
+    // A store that fails by now (a full disk, a file damaged meanwhile)
+    // costs these settings, never the rest of the shutdown.
+    try {
+        SaveMainSettings();
+    } catch (const std::exception&) {
+    }
     m_windows.unloadWindow(ProgramWindow::Inetget);
     m_windows.unloadWindow(ProgramWindow::GeoFtp);
     if (st.gblnWBOneLoaded) {

@@ -160,7 +160,8 @@ void Wander::readSelection()
     SharedState& st = m_ctx.state;
     RandNavSelection.clear();
     const int table = st.gblnJapan ? Tbl::JapanMisc : Tbl::UsaMisc;
-    const auto records = m_ctx.gdbMain.readAll(st.gastrTables[table][0]);
+    const auto records =
+        m_ctx.gdbMain.readAll(st.gastrTables[table][0], FieldNames(st.gastrTables, table));
     for (const TextRecord& record : records) {
         QCoreApplication::processEvents();
         const int i = st.catalogue.find(NullToEmpty(record.fields.value(0)));

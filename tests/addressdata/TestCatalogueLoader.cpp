@@ -5,6 +5,7 @@
 #include "addressdata/TextDatabase.h"
 #include "core/AppContext.h"
 
+#include <QSqlQuery>
 #include <QtTest>
 #include <memory>
 
@@ -172,6 +173,28 @@ private slots:
         QCOMPARE(cat.suburb(2, 2), QString("two point oh"));
         QCOMPARE(cat.gaintSuburbCount[3], qint16(1));
         QCOMPARE(cat.suburb(3, 1), QString("trailing text"));
+    }
+
+    void fieldsAreTakenByNameWhateverTheirPlace()
+    {
+        db->close();
+        db->open(folders->data() + "/reordered.db", true);
+        QSqlQuery other(db->handle());
+        QVERIFY(other.exec("CREATE TABLE UsaNeighborhoods (Added TEXT, Description TEXT, "
+                           "Neighborhood TEXT)"));
+        QVERIFY(other.exec("INSERT INTO UsaNeighborhoods VALUES ('x', 'Art', 'SoHo')"));
+        QVERIFY(other.exec("CREATE TABLE UsaSuburbs (Suburb TEXT, Added TEXT, "
+                           "NeighborhoodIndex TEXT)"));
+        QVERIFY(other.exec("INSERT INTO UsaSuburbs VALUES ('Lofts', '7', '1')"));
+        ReadCatalogue(*ctx, *db);
+        const CatalogueData& cat = state.catalogue;
+        QCOMPARE(cat.name(1), QString("SoHo"));
+        QCOMPARE(cat.gastrDescription[1], QString("Art"));
+        QCOMPARE(cat.gaintSuburbCount[1], qint16(1));
+        QCOMPARE(cat.suburb(1, 1), QString("Lofts"));
+
+        QVERIFY(other.exec("ALTER TABLE UsaSuburbs DROP COLUMN Suburb"));
+        QVERIFY_THROWS_EXCEPTION(DbError, ReadCatalogue(*ctx, *db));
     }
 
     void missingOrEmptyTablesAreErrors()

@@ -6,6 +6,7 @@
 #include "core/AppContext.h"
 
 #include <QFile>
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QtTest>
@@ -75,6 +76,17 @@ class TestMainDatabase : public QObject
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         file.write(bytes);
+    }
+
+    // Statements run on the file, as another tool would.
+    static void alter(const QString& path, const QStringList& statements)
+    {
+        TextDatabase db("test-alter");
+        db.open(path);
+        for (const QString& sql : statements) {
+            QSqlQuery query(db.handle());
+            QVERIFY2(query.exec(sql), qPrintable(query.lastError().text()));
+        }
     }
 
     static QByteArray readFile(const QString& path)
@@ -287,7 +299,24 @@ private slots:
         }
         QVERIFY(!VerifyMainDatabase(bad, t));
         QVERIFY(!QSqlDatabase::contains("test-drop"));
+
+        // A saved-links table without its Comment field.
+        writeFile(bad, whole);
+        alter(bad, {"ALTER TABLE UsaSaved DROP COLUMN Comment"});
+        QVERIFY(!VerifyMainDatabase(bad, t));
         QCOMPARE(QSqlDatabase::connectionNames().size(), 0);
+    }
+
+    void whatAnotherToolMayAddIsNoDamage()
+    {
+        const QString other = folders.data() + "/other.db";
+        writeFile(other, readFile(state.gstrGeoData));
+        // A column of its own, and a note longer than the program would store.
+        alter(other, {"ALTER TABLE UsaSaved ADD COLUMN Rating TEXT",
+                      "PRAGMA ignore_check_constraints = ON",
+                      "INSERT INTO UsaSaved (Neighborhood, Comment) VALUES ('SoHo', '" +
+                          QString(300, QLatin1Char('n')) + "')"});
+        QVERIFY(VerifyMainDatabase(other, state.gastrTables));
     }
 };
 

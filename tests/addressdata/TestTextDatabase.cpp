@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QSqlQuery>
 #include <QtTest>
+#include <sys/stat.h>
 
 class TestTextDatabase : public QObject
 {
@@ -97,6 +98,55 @@ private slots:
                                  db.append("Notes", {"note"}, {{QString(256, QLatin1Char('a'))}}));
         QCOMPARE(db.recordCount("Notes"), 2);
         QCOMPARE(db.readAll("Notes")[1].fields[0], QString(255, QChar(0xE9)));
+    }
+
+    void aTextOverTheLimitFromElsewhereIsReadNotRefused()
+    {
+        TestFolders f;
+        const QString path = f.data() + "/t.db";
+        TextDatabase db(conn);
+        db.open(path, true);
+        db.createTable("Notes", {"note"});
+        QSqlQuery other(db.handle());
+        QVERIFY(other.exec("PRAGMA ignore_check_constraints = ON"));
+        QVERIFY(other.exec("INSERT INTO Notes VALUES ('" + QString(300, QLatin1Char('n')) + "')"));
+        db.close();
+
+        db.open(path);
+        QCOMPARE(db.readAll("Notes")[0].fields[0].size(), 300);
+        // The limit still holds for what the program writes.
+        QVERIFY_THROWS_EXCEPTION(DbError,
+                                 db.append("Notes", {"note"}, {{QString(256, QLatin1Char('a'))}}));
+    }
+
+    void fieldsAreReadByName()
+    {
+        TestFolders f;
+        TextDatabase db(conn);
+        db.open(f.data() + "/t.db", true);
+        QSqlQuery other(db.handle());
+        QVERIFY(other.exec("CREATE TABLE Wide (extra TEXT, b TEXT, a TEXT)"));
+        QVERIFY(other.exec("INSERT INTO Wide VALUES ('x', 'bee', 'ay')"));
+        QCOMPARE(db.readAll("Wide", fields)[0].fields, QStringList({"ay", "bee"}));
+        // A field the table lacks is an error, never its own name as a text.
+        QVERIFY_THROWS_EXCEPTION(DbError, db.readAll("Wide", {"a", "Comment"}));
+    }
+
+    void aNewFileIsTheOwnersAlone()
+    {
+        TestFolders f;
+        const QString path = f.data() + "/t.db";
+        const mode_t before = ::umask(0);
+        {
+            TextDatabase db(conn);
+            db.open(path, true);
+            db.createTable("Pairs", fields);
+            db.append("Pairs", fields, {{"a", "b"}});
+        }
+        ::umask(before);
+        struct stat st;
+        QCOMPARE(::stat(QFile::encodeName(path).constData(), &st), 0);
+        QCOMPARE(st.st_mode & 0777, 0600u);
     }
 
     void aFailedWriteStoresNothing()

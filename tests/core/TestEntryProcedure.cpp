@@ -1,3 +1,4 @@
+#include "FileFaults.h"
 #include "RecordingHost.h"
 #include "TestContext.h"
 #include "addressdata/MainDatabase.h"
@@ -14,6 +15,7 @@
 #include <QThread>
 #include <QtTest>
 #include <memory>
+#include <sys/stat.h>
 
 namespace {
 
@@ -97,6 +99,17 @@ bool hasMarkerLink(const QString& path)
     return found;
 }
 
+// Pads a sound database to some megabytes, more than a nearly full disk
+// takes.
+void makeLarge(const QString& path)
+{
+    TextDatabase db("large");
+    db.open(path);
+    QVector<QStringList> rows(12000, QStringList{QString(250, QLatin1Char('t'))});
+    db.append("wbtBadTitles", {"BadTitle"}, rows);
+    db.close();
+}
+
 // A program folder with a sound GeoData.db and GeoBckUp.db, made by a first start.
 void firstStart(Start& s)
 {
@@ -163,7 +176,8 @@ private slots:
         QTest::newRow("garbage") << QByteArray("not a database at all, just text");
         QTest::newRow("zero length") << QByteArray();
         QTest::newRow("truncated") << QByteArray("truncate");
-        QTest::newRow("a table missing") << QByteArray("drop");
+        QTest::newRow("a table missing") << QByteArray("DROP TABLE wbtBadTitles");
+        QTest::newRow("a field missing") << QByteArray("ALTER TABLE UsaSaved DROP COLUMN Comment");
     }
     void aBadDataFileIsRestoredSilently()
     {
@@ -174,11 +188,10 @@ private slots:
         if (damage == "truncate") {
             const QByteArray bytes = readAll(s.data());
             writeAll(s.data(), bytes.left(bytes.size() / 2));
-        } else if (damage == "drop") {
+        } else if (damage.startsWith("DROP ") || damage.startsWith("ALTER ")) {
             TextDatabase db("drop");
             db.open(s.data());
-            QVERIFY(db.handle().exec("DROP TABLE wbtBadTitles").lastError().type() ==
-                    QSqlError::NoError);
+            QVERIFY(db.handle().exec(damage).lastError().type() == QSqlError::NoError);
             db.close();
         } else {
             writeAll(s.data(), damage);
@@ -232,15 +245,101 @@ private slots:
         QVERIFY(VerifyMainDatabase(s.backup(), s.t.state.gastrTables));
     }
 
+    void aCopyThatFailsIsNoBadBackup_data()
+    {
+        QTest::addColumn<bool>("restoring");
+        QTest::newRow("restoring the backup") << true;
+        QTest::newRow("refreshing the backup") << false;
+    }
+    void aCopyThatFailsIsNoBadBackup()
+    {
+        QFETCH(bool, restoring);
+        Start s;
+        firstStart(s);
+        addMarkerLink(restoring ? s.backup() : s.data());
+        if (restoring) {
+            makeLarge(s.backup());
+            writeAll(s.data(), "garbage");
+        } else {
+            makeLarge(s.data());
+        }
+        const QByteArray data = readAll(s.data());
+        const QByteArray backup = readAll(s.backup());
+        {
+            const FileSizeLimit diskNearlyFull(1 << 20);
+            QVERIFY(!s.run());
+        }
+        // Told plainly, not asked about a corrupt database.
+        QCOMPARE(s.t.prompts.shown.size(), 1);
+        QCOMPARE(s.t.prompts.shown[0].title, QString("Database Copy Failed!"));
+        QVERIFY(s.t.prompts.shown[0].text.contains("(File too large)"));
+        QVERIFY(!s.ui.mainShown);
+        QVERIFY(!s.t.db.isOpen());
+        QCOMPARE(readAll(s.data()), data);
+        QCOMPARE(readAll(s.backup()), backup);
+        QCOMPARE(QDir(s.t.folders.appPath()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+        QCOMPARE(s.t.ctx.GetSetting("Startup", "AdvOptInit"), QString("1"));
+
+        // With room again the same start goes through.
+        s.t.prompts.clear();
+        QVERIFY(s.run());
+        QVERIFY(s.t.prompts.shown.isEmpty());
+        QVERIFY(hasMarkerLink(s.data()));
+    }
+
+    void aReadOnlyDataFolderKeepsBothFiles()
+    {
+        Start s;
+        firstStart(s);
+        addMarkerLink(s.backup());
+        writeAll(s.data(), "garbage");
+        const QByteArray backup = readAll(s.backup());
+        {
+            const ReadOnlyFolder locked(s.t.folders.appPath());
+            if (!locked.refusesFiles())
+                QSKIP("this file system lets the test write into any folder");
+            s.t.prompts.answer(PromptService::Yes); // for a question that must not come
+            QVERIFY(!s.run());
+        }
+        QCOMPARE(s.t.prompts.shown.size(), 1);
+        QCOMPARE(s.t.prompts.shown[0].title, QString("Database Copy Failed!"));
+        QCOMPARE(readAll(s.data()), QByteArray("garbage"));
+        QCOMPARE(readAll(s.backup()), backup);
+    }
+
     void readOnlyFilesDoNotBlockTheStart()
     {
         Start s;
         firstStart(s);
-        QFile::setPermissions(s.data(), QFile::ReadOwner);
-        QFile::setPermissions(s.backup(), QFile::ReadOwner);
+        // Read-only, and readable by all, as a former version left them.
+        const auto readOnly = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+        QFile::setPermissions(s.data(), readOnly);
+        QFile::setPermissions(s.backup(), readOnly);
         QVERIFY(s.run());
-        QVERIFY(QFile::permissions(s.data()) & QFile::WriteOwner);
-        QVERIFY(QFile::permissions(s.backup()) & QFile::WriteOwner);
+        // Writable again, and the owner's alone: they hold saved addresses and notes.
+        for (const QString& file : {s.data(), s.backup()}) {
+            struct stat st;
+            QCOMPARE(::stat(QFile::encodeName(file).constData(), &st), 0);
+            QCOMPARE(st.st_mode & 0777, 0600u);
+        }
+    }
+
+    void aLongNoteFromElsewhereKeepsTheFile()
+    {
+        Start s;
+        firstStart(s);
+        {
+            TextDatabase db("long");
+            db.open(s.data());
+            QSqlQuery other(db.handle());
+            QVERIFY(other.exec("PRAGMA ignore_check_constraints = ON"));
+            QVERIFY(other.exec("INSERT INTO UsaSaved VALUES ('SoHo', '', '1234', '" +
+                               QString(300, QLatin1Char('n')) + "', '')"));
+        }
+        QVERIFY(s.run());
+        QVERIFY(s.t.prompts.shown.isEmpty());
+        QVERIFY(hasMarkerLink(s.data()));
+        QVERIFY(hasMarkerLink(s.backup()));
     }
 
     void aDamagedSettingsFileTakesTheSettingsErrorRoute()
@@ -254,11 +353,28 @@ private slots:
             s.t.prompts.messages(),
             QStringList{"A settings error was encountered!\rYou will need to restart Vorlan!"});
         QVERIFY(!QFile::exists(s.t.settings.filePath("Vorlan 1.0")));
+        // What was in it is kept beside it.
+        QCOMPARE(readAll(s.t.settings.filePath("Vorlan 1.0") + ".bak"),
+                 QByteArray("\x01\x02\x00junk", 7));
         QVERIFY(hasMarkerLink(s.data())); // the data stays
         // The next start is a first use again, on the same data.
         s.t.prompts.clear();
         QVERIFY(s.run());
         QVERIFY(hasMarkerLink(s.data()));
+    }
+
+    void settingsOfAnotherToolSurviveTheStart()
+    {
+        Start s;
+        firstStart(s);
+        // Single-byte text with names in any case, as other tools write it.
+        writeAll(s.t.settings.filePath("Vorlan 1.0"),
+                 "[StartUp]\r\nADVOPTINIT=1\r\nPath=" + s.t.folders.appPath().toLatin1() +
+                     "\r\nNeigh=Paris\r\n[FTP]\r\nGeoCities Password=p\xe4ss\r\n");
+        QVERIFY(s.run());
+        QVERIFY(s.t.prompts.shown.isEmpty());
+        QCOMPARE(s.ui.navigator->controls().cmbNeighborhood.text(), QString("Paris"));
+        QCOMPARE(s.t.ctx.GetSetting("FTP", "GeoCities Password"), QString::fromUtf8("p\u00e4ss"));
     }
 
     void aWaitTooLongFor16BitsTakesTheSettingsErrorRoute()
@@ -277,7 +393,11 @@ private slots:
         Start s;
         QVERIFY(!s.run("/?"));
         QCOMPARE(s.t.prompts.opened.size(), 1);
-        QVERIFY(QFileInfo(s.t.prompts.opened.first()).isFile());
+        const QFileInfo index(s.t.prompts.opened.first());
+        QVERIFY(index.isFile());
+        // In a folder of the user's own, closed to others.
+        QVERIFY(index.absoluteFilePath().startsWith(s.t.folders.root() + "/cache/"));
+        QCOMPARE(QFileInfo(index.absolutePath()).permissions() & 0x0077, QFile::Permissions());
         QVERIFY(!QFile::exists(s.data()));
         QVERIFY(s.ui.splash.isEmpty());
 
@@ -306,8 +426,9 @@ private slots:
         QVERIFY(s.run(line));
         QCOMPARE(s.t.state.gblnOpenCommandUrl, url);
         QCOMPARE(!s.ui.host->navigated().isEmpty(), url);
+        // Lowered for the tests only, opened as given.
         if (url)
-            QVERIFY(s.ui.host->navigated().first().endsWith(line.toLower()));
+            QVERIFY(s.ui.host->navigated().first().endsWith(line));
     }
 
     void aSecondInstanceWithoutAnAddressLeavesNoTrace()
@@ -320,12 +441,42 @@ private slots:
         QVERIFY(s.t.prompts.shown.isEmpty() && s.t.prompts.opened.isEmpty());
     }
 
+    void aSecondInstanceHandsOnlyWebAndMailAddressesOn_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<bool>("opened");
+        QTest::newRow("mail") << "mailto:Someone@Example.org" << true;
+        QTest::newRow("https shortcut") << "HTTPS://example.org/Page.url" << true;
+        QTest::newRow("existing shortcut") << "shortcut" << true;
+        QTest::newRow("missing shortcut") << "/nowhere/Page.url" << false;
+        QTest::newRow("script") << "javascript:alert(1)//url" << false;
+        QTest::newRow("local file") << "file:///etc/passwd#.url" << false;
+        QTest::newRow("data") << "data:text/html,<b>hi</b>url" << false;
+    }
+    void aSecondInstanceHandsOnlyWebAndMailAddressesOn()
+    {
+        QFETCH(QString, line);
+        QFETCH(bool, opened);
+        Start s;
+        if (line == "shortcut") {
+            line = s.t.folders.root() + "/Home Page.URL";
+            writeAll(line, "[InternetShortcut]\r\nURL=http://www.geocities.com/\r\n");
+        }
+        s.ui.prevInstance = true;
+        QVERIFY(!s.run(line));
+        QCOMPARE(s.t.prompts.opened, opened ? QStringList{line} : QStringList());
+        // Either way this instance loads, saves its settings and leaves.
+        QVERIFY(s.t.state.gblnHandedOff);
+        QVERIFY(!s.ui.mainShown);
+        QCOMPARE(s.ui.host->calls.last(), QString("end"));
+    }
+
     void aSecondInstanceHandsItsAddressOnAndLeaves()
     {
         Start s;
         s.ui.prevInstance = true;
         QVERIFY(!s.run("http://www.geocities.com/Paris/1234/"));
-        QCOMPARE(s.t.prompts.opened, QStringList{"http://www.geocities.com/paris/1234/"});
+        QCOMPARE(s.t.prompts.opened, QStringList{"http://www.geocities.com/Paris/1234/"});
         QVERIFY(s.t.state.gblnHandedOff);
         QVERIFY(!s.ui.mainShown);
         QCOMPARE(s.ui.host->calls.last(), QString("end"));

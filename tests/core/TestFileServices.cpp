@@ -1,3 +1,4 @@
+#include "FileFaults.h"
 #include "TestFolders.h"
 #include "core/FileServices.h"
 #include "core/SettingsKeys.h"
@@ -6,12 +7,19 @@
 #include <QDir>
 #include <QFile>
 #include <QtTest>
+#include <sys/stat.h>
 
 static void touch(const QString& path, const QByteArray& content = "x")
 {
     QFile f(path);
     QVERIFY(f.open(QIODevice::WriteOnly));
     f.write(content);
+}
+
+static QByteArray contents(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
 class TestFileServices : public QObject
@@ -45,11 +53,15 @@ private slots:
         touch(twoDots);
         QCOMPARE(UniqueFileName(twoDots), dir.path() + "/page1.tar.gz");
 
-        // A dot in a folder name splits there: the number lands in the folder name.
-        QVERIFY(QDir(dir.path()).mkdir("my.folder"));
-        const QString inDotted = dir.path() + "/my.folder/page.htm";
+        // Only the file name is split: a dot in a folder name, as in the data
+        // folder under ~/.local, stays where it is.
+        QVERIFY(QDir(dir.path()).mkpath(".local/share/Vorlan"));
+        const QString inDotted = dir.path() + "/.local/share/Vorlan/page.htm";
         touch(inDotted);
-        QCOMPARE(UniqueFileName(inDotted), dir.path() + "/my1.folder/page.htm");
+        QCOMPARE(UniqueFileName(inDotted), dir.path() + "/.local/share/Vorlan/page1.htm");
+        const QString dottedNoExtension = dir.path() + "/.local/share/Vorlan/list";
+        touch(dottedNoExtension);
+        QCOMPARE(UniqueFileName(dottedNoExtension), dottedNoExtension + "1");
     }
 
     void uniqueFileNameCountsAFolderAsTaken()
@@ -57,6 +69,32 @@ private slots:
         QTemporaryDir dir;
         QVERIFY(QDir(dir.path()).mkdir("out"));
         QCOMPARE(UniqueFileName(dir.path() + "/out"), dir.path() + "/out1");
+    }
+
+    void aCopyOverAFileIsWholeOrNothing()
+    {
+        QTemporaryDir dir;
+        const QString from = dir.path() + "/big.db";
+        const QString to = dir.path() + "/target.db";
+        touch(from, QByteArray(3 << 20, 'b'));
+        touch(to, "old and sound");
+        {
+            const FileSizeLimit nearlyFull(1 << 20);
+            QCOMPARE(ReplaceByCopy(from, to), QString("File too large"));
+        }
+        QCOMPARE(contents(to), QByteArray("old and sound"));
+        QVERIFY(!ReplaceByCopy(dir.path() + "/absent.db", to).isEmpty());
+        QCOMPARE(contents(to), QByteArray("old and sound"));
+        // Nothing half-made is left beside it.
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden),
+                 QStringList({"big.db", "target.db"}));
+
+        QCOMPARE(ReplaceByCopy(from, to), QString());
+        QCOMPARE(contents(to), contents(from));
+        struct stat st;
+        QCOMPARE(::stat(QFile::encodeName(to).constData(), &st), 0);
+        QCOMPARE(st.st_mode & 0777, 0600u);
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
     }
 
     void pathBeforeAndNameAfterTheLastSeparator_data()

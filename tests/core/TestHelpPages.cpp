@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <unistd.h>
 
 namespace {
 
@@ -77,6 +78,38 @@ private slots:
         }
         QCOMPARE(HelpPages::extractTo(tmp.path()), index);
         QCOMPARE(readAll(index), readAll(QStringLiteral(":/help/index.html")));
+    }
+
+    void theFolderIsTheUsersAlone()
+    {
+        QTemporaryDir tmp;
+        const QString folder = tmp.filePath(QStringLiteral("help"));
+        QVERIFY(!HelpPages::extractTo(folder).isEmpty());
+        QCOMPARE(QFileInfo(folder).permissions() & 0x0077, QFile::Permissions());
+
+        // One that others may write to is closed to them before it is used.
+        QVERIFY(QFile::setPermissions(folder, QFile::Permissions(0x7777)));
+        QVERIFY(!HelpPages::extractTo(folder).isEmpty());
+        QCOMPARE(QFileInfo(folder).permissions() & 0x0077, QFile::Permissions());
+    }
+
+    void aPlantedFolderIsNotUsed()
+    {
+        QTemporaryDir tmp;
+        const QString elsewhere = tmp.filePath(QStringLiteral("elsewhere"));
+        QVERIFY(QDir().mkpath(elsewhere));
+        const QString link = tmp.filePath(QStringLiteral("help"));
+        QVERIFY(QFile::link(elsewhere, link));
+        QVERIFY(HelpPages::extractTo(link).isEmpty());
+        QVERIFY(QDir(elsewhere).isEmpty());
+
+        if (::geteuid() != 0)
+            QSKIP("a folder of another user needs root to be made");
+        const QString theirs = tmp.filePath(QStringLiteral("theirs"));
+        QVERIFY(QDir().mkpath(theirs));
+        QCOMPARE(::chown(QFile::encodeName(theirs).constData(), 65534, 65534), 0);
+        QVERIFY(HelpPages::extractTo(theirs).isEmpty());
+        QVERIFY(QDir(theirs).isEmpty());
     }
 
     void aFolderThatCannotBeMadeGivesNoPath()

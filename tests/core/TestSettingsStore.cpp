@@ -2,9 +2,36 @@
 #include "core/SettingsKeys.h"
 #include "core/SettingsStore.h"
 
+#include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QtTest>
+#include <sys/inotify.h>
 #include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+QByteArray contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(bytes);
+}
+
+unsigned mode(const QString& path)
+{
+    struct stat st;
+    return ::stat(QFile::encodeName(path).constData(), &st) == 0 ? st.st_mode & 0777 : 0;
+}
+
+} // namespace
 
 class TestSettingsStore : public QObject
 {
@@ -61,6 +88,36 @@ private slots:
         QVERIFY(s.filePath(app).endsWith("/Vorlan 1.0.ini"));
     }
 
+    void theFileIsTheOwnersFromItsFirstMoment()
+    {
+        TestFolders f;
+        SettingsStore s(f.config());
+        const QString name = QFileInfo(s.filePath(app)).fileName();
+        const int watch = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+        QVERIFY(watch >= 0);
+        QVERIFY(::inotify_add_watch(watch, QFile::encodeName(f.config()).constData(),
+                                    IN_CREATE | IN_MOVED_TO | IN_ATTRIB) >= 0);
+        s.SaveSetting(app, Sect::FTP, "GeoCities Password", "secret");
+        s.SaveSetting(app, Sect::FTP, "GeoCities UserID", "me");
+
+        QStringList events;
+        alignas(inotify_event) char buffer[8192];
+        ssize_t size;
+        while ((size = ::read(watch, buffer, sizeof buffer)) > 0) {
+            for (char* at = buffer; at < buffer + size;) {
+                const auto* event = reinterpret_cast<const inotify_event*>(at);
+                if (event->len && QFile::decodeName(event->name) == name)
+                    events << ((event->mask & IN_ATTRIB) ? "rights" : "appeared");
+                at += sizeof(inotify_event) + event->len;
+            }
+        }
+        ::close(watch);
+        // Its rights never changed after it appeared: they were these.
+        QVERIFY(!events.isEmpty());
+        QVERIFY2(!events.contains("rights"), qPrintable(events.join(' ')));
+        QCOMPARE(mode(s.filePath(app)), 0600u);
+    }
+
     void deleteRemovesTheWholeApplicationOnly()
     {
         TestFolders f;
@@ -106,7 +163,6 @@ private slots:
     {
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("binary") << QByteArray("\x00\x01\x02garbage\xff\xfe", 12);
-        QTest::newRow("not utf-8") << QByteArray("[startup]\nneigh=\xff\xfe\xfd\n");
         QTest::newRow("truncated section") << QByteArray("[startup]\nneigh=SoHo\n[webbro");
         QTest::newRow("lines without values") << QByteArray("this is not\na settings file\n");
     }
@@ -121,9 +177,98 @@ private slots:
         file.write(content);
         file.close();
         QVERIFY_THROWS_EXCEPTION(SettingsError, s.GetSetting(app, Sect::Startup, Key::Neigh));
-        // Deleting the tree is the way out of a damaged store.
+        QVERIFY_THROWS_EXCEPTION(SettingsError, s.SaveSetting(app, Sect::Startup, Key::Neigh, "x"));
+        // Deleting the tree is the way out of a damaged store; what was in
+        // the file is kept beside it, for its owner only.
         s.DeleteSetting(app);
         QCOMPARE(s.GetSetting(app, Sect::Startup, Key::Neigh, "d"), QString("d"));
+        QCOMPARE(contents(s.filePath(app) + ".bak"), content);
+        QCOMPARE(mode(s.filePath(app) + ".bak"), 0600u);
+    }
+
+    void aFifoOrFolderInItsPlaceIsDamagedNotWaitedFor()
+    {
+        TestFolders f;
+        SettingsStore s(f.config());
+        QDir().mkpath(f.config());
+        const QByteArray path = QFile::encodeName(s.filePath(app));
+        QCOMPARE(::mkfifo(path.constData(), 0600), 0);
+        QVERIFY_THROWS_EXCEPTION(SettingsError, s.GetSetting(app, Sect::Startup, Key::Neigh));
+        QVERIFY_THROWS_EXCEPTION(SettingsError, s.SaveSetting(app, Sect::Startup, Key::Neigh, "x"));
+        s.DeleteSetting(app);
+        QCOMPARE(s.GetSetting(app, Sect::Startup, Key::Neigh, "d"), QString("d"));
+
+        QVERIFY(QDir().mkpath(s.filePath(app)));
+        QVERIFY_THROWS_EXCEPTION(SettingsError, s.GetSetting(app, Sect::Startup, Key::Neigh));
+    }
+
+    void aFileWrittenByHandIsReadWhateverItsCase()
+    {
+        TestFolders f;
+        SettingsStore s(f.config());
+        QDir().mkpath(f.config());
+        write(s.filePath(app),
+              "; made by hand\r\n[Startup]\r\nNeigh=SoHo\r\n"
+              "House Number = 4321\r\n\r\n[ADVOPT]\r\nDefaultSN=Cool, isn't it\r\n");
+        QCOMPARE(s.GetSetting(app, Sect::Startup, Key::Neigh), QString("SoHo"));
+        QCOMPARE(s.GetSetting(app, "StartUp", Key::HouseNumber), QString("4321"));
+        QCOMPARE(s.GetSetting(app, Sect::AdvOpt, Key::DefaultSN), QString("Cool, isn't it"));
+
+        // A save replaces the hand-written value, and the others stay.
+        s.SaveSetting(app, Sect::Startup, Key::Neigh, "Paris");
+        SettingsStore again(f.config());
+        QCOMPARE(again.GetSetting(app, Sect::Startup, Key::Neigh), QString("Paris"));
+        QCOMPARE(again.GetSetting(app, Sect::Startup, Key::HouseNumber), QString("4321"));
+        QCOMPARE(again.GetSetting(app, Sect::AdvOpt, Key::DefaultSN), QString("Cool, isn't it"));
+        QVERIFY(!contents(s.filePath(app)).contains("Neigh"));
+    }
+
+    void aFileThatIsNotUtf8IsReadAsWindows1252()
+    {
+        TestFolders f;
+        SettingsStore s(f.config());
+        QDir().mkpath(f.config());
+        write(s.filePath(app), "[FTP]\r\nGeoCities Password=p\xe4ss\x80\r\n[AdvOpt]\r\n"
+                               "DefaultSN=\x93"
+                               "Cool\x94 site\r\n");
+        const QString password = QString::fromUtf8("p\u00e4ss\u20ac");
+        QCOMPARE(s.GetSetting(app, Sect::FTP, "GeoCities Password"), password);
+        QCOMPARE(s.GetSetting(app, Sect::AdvOpt, Key::DefaultSN),
+                 QString::fromUtf8("\u201cCool\u201d site"));
+        // Written back as UTF-8, with nothing lost.
+        s.SaveSetting(app, Sect::Startup, Key::Neigh, "SoHo");
+        SettingsStore again(f.config());
+        QCOMPARE(again.GetSetting(app, Sect::FTP, "GeoCities Password"), password);
+        QVERIFY(contents(s.filePath(app)).contains(password.toUtf8()));
+    }
+
+    void valuesKeepTheirTextInTheIniFormOfQSettings_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::newRow("plain") << "This is a CooL Site!";
+        QTest::newRow("separators") << "a, b; c = d";
+        QTest::newRow("quotes and backslashes") << "say \"hi\" C:\\Temp\\";
+        QTest::newRow("blanks at the ends") << "  padded ";
+        QTest::newRow("at sign") << "@home";
+        QTest::newRow("controls") << "tab\tnew\nline\x01"
+                                     "af";
+        QTest::newRow("beyond ASCII") << QString::fromUtf8("M\u00fcller \u20ac \U0001F600");
+        QTest::newRow("empty") << "";
+    }
+    void valuesKeepTheirTextInTheIniFormOfQSettings()
+    {
+        QFETCH(QString, value);
+        TestFolders f;
+        SettingsStore s(f.config());
+        s.SaveSetting(app, Sect::FTP, "GeoCities/Password x", value);
+        QCOMPARE(SettingsStore(f.config()).GetSetting(app, Sect::FTP, "GeoCities/Password x"),
+                 value);
+        // The file is one that QSettings reads, and one it writes is read.
+        QSettings theirs(s.filePath(app), QSettings::IniFormat);
+        QCOMPARE(theirs.value("ftp/geocities/password x").toString(), value);
+        theirs.setValue("startup/path", value);
+        theirs.sync();
+        QCOMPARE(SettingsStore(f.config()).GetSetting(app, Sect::Startup, Key::Path), value);
     }
 };
 

@@ -1,7 +1,9 @@
 #include "NavigatorRig.h"
 #include "core/VbRuntime.h"
 
+#include <QDir>
 #include <QtTest>
+#include <sys/stat.h>
 
 class TestNavigator : public QObject
 {
@@ -265,6 +267,43 @@ private slots:
         QCOMPARE(r.host.calls, (QStringList{"unload Inetget", "unload GeoFtp", "stop",
                                             "unload BrowserOne", "end"}));
         QCOMPARE(r.t.ctx.GetSetting("Startup", "Neigh"), QString("Nashville"));
+        QVERIFY(!r.t.db.isOpen());
+    }
+
+    void aStoreThatFailsWhileRunningStopsNeitherTheSwitchNorTheShutdown_data()
+    {
+        QTest::addColumn<QString>("damage");
+        QTest::newRow("garbage") << "garbage";
+        QTest::newRow("fifo") << "fifo";
+        QTest::newRow("folder") << "folder";
+    }
+    void aStoreThatFailsWhileRunningStopsNeitherTheSwitchNorTheShutdown()
+    {
+        QFETCH(QString, damage);
+        NavigatorRig r;
+        r.start();
+        r.t.state.gblnWBOneLoaded = true;
+        r.nav.SaveMainSettings();
+        const QString file = r.t.settings.filePath(r.t.state.gstrAppName);
+        QVERIFY(QFile::remove(file));
+        if (damage == "garbage") {
+            QFile junk(file);
+            QVERIFY(junk.open(QIODevice::WriteOnly));
+            junk.write(QByteArray("\x00\x01junk", 6));
+        } else if (damage == "fifo") {
+            QCOMPARE(::mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+        } else {
+            QVERIFY(QDir().mkpath(file));
+        }
+
+        r.nav.JapanClick();
+        QVERIFY(r.t.state.gblnJapan);
+        QCOMPARE(r.c.cmbNeighborhood.listCount(), 14);
+
+        r.host.calls.clear();
+        r.c.cmdQuite.click();
+        QCOMPARE(r.host.calls, (QStringList{"unload Inetget", "unload GeoFtp", "stop",
+                                            "unload BrowserOne", "end"}));
         QVERIFY(!r.t.db.isOpen());
     }
 };
