@@ -1,9 +1,11 @@
 #include "EngineEnvironment.h"
 #include "TestContext.h"
+#include "WidgetChecks.h"
 #include "browserone/frmWBOne.h"
 #include "core/WindowRegistry.h"
 #include "navigator/frmGeoCities.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
@@ -34,6 +36,11 @@ struct WindowRig
         w = windows.main();
         w->navigator().LoadCatalogue();
     }
+    void show()
+    {
+        w->show();
+        QVERIFY(QTest::qWaitForWindowExposed(w));
+    }
     template <typename T> T* find(const QString& name)
     {
         T* found = w->findChild<T*>(name);
@@ -52,6 +59,8 @@ struct WindowRig
         emit box->activated(i);
     }
     QString address() { return find<QLineEdit>("txtFullAddress")->text(); }
+    // Saves the address on show with a note, as the note dialog's Ok does.
+    void saveLink(const QString& note) { w->navigator().savedLinks().SaveNote(note); }
 };
 } // namespace
 
@@ -128,6 +137,67 @@ private slots:
         japan->trigger();
         QVERIFY(!japan->isChecked());
         QCOMPARE(r.w->windowTitle(), QString("Navigate GeoCities USA"));
+    }
+
+    void theListsTakeNoTyping()
+    {
+        WindowRig r;
+        r.choose("cmbNeighborhood", "SoHo");
+        r.choose("cmbSuburb", "Lofts");
+        r.saveLink("lofts");
+        r.choose("cmbNeighborhood", "Paris");
+        r.saveLink("paris");
+        r.choose("cmbSavedLinks", "lofts");
+        r.show();
+        NavigatorControls& c = r.w->navigator().controls();
+        const QString shown = r.address();
+        for (ListControl* model : {&c.cmbNeighborhood, &c.cmbSuburb, &c.cmbHouseNumberPrefix,
+                                   &c.cmbHouseNumberSuffix, &c.cmbSavedLinks}) {
+            const QString name = model->name();
+            QComboBox* box = r.find<QComboBox>(name);
+            QSignalSpy clicks(model, &Control::clicked);
+            const int index = box->currentIndex();
+            // Arrows, paging and Qt's keyboard search on the closed box.
+            for (Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_End,
+                                Qt::Key_Home, Qt::Key_P, Qt::Key_S, Qt::Key_9, Qt::Key_0})
+                QTest::keyClick(box, key);
+            QTest::keyClick(box, Qt::Key_Up, Qt::AltModifier);
+            WidgetChecks::wheel(box, -1);
+            WidgetChecks::wheel(box, 2);
+            // The open list: keys move nothing, and Return and F4 close it
+            // without choosing the entry they would have chosen.
+            for (Qt::Key closer : {Qt::Key_Return, Qt::Key_F4}) {
+                box->showPopup();
+                QAbstractItemView* list = box->view();
+                QTRY_VERIFY(list->isVisible());
+                for (Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_P, Qt::Key_End})
+                    QTest::keyClick(list, key);
+                QTest::keyClick(list, closer);
+                QTRY_VERIFY(!list->isVisible());
+            }
+            QVERIFY2(clicks.isEmpty(), qPrintable(name));
+            QCOMPARE(box->currentIndex(), index);
+            QCOMPARE(r.address(), shown);
+        }
+        QCOMPARE(c.cmbSavedLinks.text(), QString("lofts"));
+        QCOMPARE(c.cmdSavedLinks0.text(), QString("Return"));
+
+        // The mouse still chooses, and the focus keys still pass.
+        QComboBox* hood = r.find<QComboBox>("cmbNeighborhood");
+        hood->showPopup();
+        QAbstractItemView* list = hood->view();
+        QTRY_VERIFY(list->isVisible());
+        const QModelIndex paris = list->model()->index(hood->findText("Paris"), 0);
+        list->scrollTo(paris);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(paris).center());
+        QTRY_VERIFY(!list->isVisible());
+        QCOMPARE(r.address(), QString("geocities.com/Paris/1000/"));
+        QCOMPARE(c.cmdSavedLinks0.text(), QString("Save"));
+        r.w->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(r.w));
+        hood->setFocus();
+        QTest::keyClick(hood, Qt::Key_Tab);
+        QVERIFY(r.find<QComboBox>("cmbSuburb")->hasFocus());
     }
 
     void theWindowKeepsItsSizeAndStaysOnTheScreen()
