@@ -154,6 +154,9 @@ void bind(ListControl& model, QComboBox* combo)
 {
     combo->setObjectName(model.name());
     combo->setEditable(false);
+    // Fusion and the other styles that show the list as a menu ignore
+    // maxVisibleItems and open a column the height of the screen.
+    combo->setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
     new NoTyping(combo);
     auto showItems = [&model, combo] {
         const QSignalBlocker block(combo);

@@ -200,6 +200,23 @@ private slots:
         QVERIFY(r.find<QComboBox>("cmbSuburb")->hasFocus());
     }
 
+    void theDropDownsOpenAboutTwentyRowsHigh()
+    {
+        WindowRig r;
+        r.show();
+        for (const char* name :
+             {"cmbNeighborhood", "cmbHouseNumberPrefix", "cmbHouseNumberSuffix"}) {
+            QComboBox* box = r.find<QComboBox>(name);
+            QVERIFY(box->count() > 40);
+            box->showPopup();
+            QAbstractItemView* list = box->view();
+            QTRY_VERIFY(list->isVisible());
+            const int rows = qRound(double(list->viewport()->height()) / list->sizeHintForRow(0));
+            QVERIFY2(rows >= 18 && rows <= 21, qPrintable(QString::number(rows) + " in " + name));
+            box->hidePopup();
+        }
+    }
+
     void theWindowKeepsItsSizeAndStaysOnTheScreen()
     {
         WindowRig r;
