@@ -99,16 +99,28 @@ private:
     QComboBox* m_combo;
 };
 
-// Turns a key press on a widget into the control's Click, as the slider's
-// key handling asks.
-class KeyClick : public QObject
+// The slider's Click: a press on it, on the handle or the track (which Qt
+// turns into a page step without sliderPressed), the wheel, and a key other
+// than the focus keys. The value change that follows is its Change.
+class SliderClick : public QObject
 {
 public:
-    KeyClick(Control& model, QObject* parent) : QObject(parent), m_model(model) {}
+    SliderClick(Control& model, QObject* parent) : QObject(parent), m_model(model) {}
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() == QEvent::KeyPress)
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
             m_model.click();
+            break;
+        case QEvent::KeyPress:
+            if (!isFocusKey(static_cast<QKeyEvent*>(event)))
+                m_model.click();
+            break;
+        default:
+            break;
+        }
         return false;
     }
 
@@ -225,8 +237,7 @@ void bind(SliderControl& model, QSlider* slider)
         } catch (...) {
         }
     });
-    QObject::connect(slider, &QSlider::sliderPressed, &model, [&model] { model.click(); });
-    slider->installEventFilter(new KeyClick(model, slider));
+    slider->installEventFilter(new SliderClick(model, slider));
 }
 
 void bind(Control& model, QLineEdit* edit)

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QtTest>
+#include <functional>
 
 namespace {
 // The captions of a menu's entries, submenus as "caption>" and separators as "-".
@@ -214,6 +215,37 @@ private slots:
             const int rows = qRound(double(list->viewport()->height()) / list->sizeHintForRow(0));
             QVERIFY2(rows >= 18 && rows <= 21, qPrintable(QString::number(rows) + " in " + name));
             box->hidePopup();
+        }
+    }
+
+    void everyTouchOfTheSliderLeavesTheSavedLink()
+    {
+        WindowRig r;
+        r.choose("cmbHouseNumberPrefix", "12");
+        r.saveLink("twelve hundred");
+        r.choose("cmbHouseNumberPrefix", "50");
+        r.show();
+        QSlider* slider = r.find<QSlider>("sldrHouseNumber");
+        QPushButton* save = r.find<QPushButton>("cmdSavedLinks[0]");
+        const std::function<void()> touches[] = {
+            // The track far right of the handle: a page step, no sliderPressed.
+            [&] {
+                QTest::mouseClick(slider, Qt::LeftButton, {},
+                                  QPoint(slider->width() - 3, slider->height() / 2));
+            },
+            [&] { QTest::keyClick(slider, Qt::Key_Right); },
+            [&] { WidgetChecks::wheel(slider, 1); },
+        };
+        for (const auto& touch : touches) {
+            r.choose("cmbSavedLinks", "twelve hundred");
+            QCOMPARE(save->text(), QString("Return"));
+            touch();
+            QVERIFY(slider->value() != 1200);
+            QCOMPARE(save->text(), QString("Save"));
+            QVERIFY(r.find<QPushButton>("cmdSavedLinks[1]")->isHidden());
+            QCOMPARE(r.address(), "geocities.com/Area51/" + QString::number(slider->value()) + "/");
+            // Save now keeps the new number: no Return brings back 5000.
+            QVERIFY(!r.w->navigator().savedLinks().SavedViewActive);
         }
     }
 
