@@ -122,7 +122,9 @@ void frmGeoCities::buildControls()
     savedLinks->setMinimumContentsLength(20);
     ControlBinder::bind(c.cmbSavedLinks, savedLinks);
     saved->addWidget(savedLinks, 1);
-    for (Control* model : {&c.cmdSavedLinks0, &c.cmdSavedLinks1}) {
+    // Delete shows beside Save on the inside, so Save (Return while a link
+    // is on show) stays where it stood.
+    for (Control* model : {&c.cmdSavedLinks1, &c.cmdSavedLinks0}) {
         auto* button = new QPushButton(central);
         button->setAutoDefault(false);
         ControlBinder::bind(*model, button);

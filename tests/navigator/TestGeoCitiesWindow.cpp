@@ -249,6 +249,30 @@ private slots:
         }
     }
 
+    void saveStaysWhereItStoodWhenALinkIsOnShow()
+    {
+        WindowRig r;
+        r.choose("cmbNeighborhood", "SoHo");
+        r.saveLink("soho");
+        r.choose("cmbNeighborhood", "Paris");
+        r.show();
+        QPushButton* save = r.find<QPushButton>("cmdSavedLinks[0]");
+        QPushButton* remove = r.find<QPushButton>("cmdSavedLinks[1]");
+        const QPoint spot = save->mapTo(r.w, save->rect().center());
+
+        r.choose("cmbSavedLinks", "soho");
+        QTRY_VERIFY(remove->isVisible());
+        QCoreApplication::sendPostedEvents(); // the layout places Delete
+        QCOMPARE(r.w->childAt(spot), static_cast<QWidget*>(save));
+        QVERIFY(remove->geometry().right() < save->geometry().left());
+        QVERIFY(remove->geometry().left() > r.find<QComboBox>("cmbSavedLinks")->geometry().left());
+
+        // A press where Save stood is Return and deletes nothing.
+        QTest::mouseClick(save, Qt::LeftButton);
+        QCOMPARE(r.address(), QString("geocities.com/Paris/1000/"));
+        QCOMPARE(r.t.db.recordCount("UsaSaved"), 1);
+    }
+
     void theWindowKeepsItsSizeAndStaysOnTheScreen()
     {
         WindowRig r;
