@@ -40,6 +40,9 @@ frmGeoCities::frmGeoCities(AppContext& ctx, WindowRegistry& windows)
     buildMenus();
     adjustSize();
     setFixedSize(sizeHint());
+    // Made before the load's clamp, so that the frame counts where the
+    // window system already knows it.
+    create();
     m_nav.Load();
 }
 

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSlider>
 #include <QtTest>
 #include <functional>
@@ -31,9 +32,12 @@ struct WindowRig
     WindowRegistry windows{t.ctx};
     frmGeoCities* w = nullptr;
 
-    WindowRig()
+    // beforeLoad runs on the new database, before the window is made.
+    explicit WindowRig(const std::function<void(AppContext&)>& beforeLoad = {})
     {
         t.createAndOpenDatabase();
+        if (beforeLoad)
+            beforeLoad(t.ctx);
         w = windows.main();
         w->navigator().LoadCatalogue();
     }
@@ -271,6 +275,21 @@ private slots:
         QTest::mouseClick(save, Qt::LeftButton);
         QCOMPARE(r.address(), QString("geocities.com/Paris/1000/"));
         QCOMPARE(r.t.db.recordCount("UsaSaved"), 1);
+    }
+
+    void aStoredPlaceOffTheScreenKeepsTheWholeWindowOnIt()
+    {
+        WindowRig r([](AppContext& ctx) {
+            ctx.SaveSetting("VorlanMain", "MF_L", "99999");
+            ctx.SaveSetting("VorlanMain", "MF_T", "99999");
+        });
+        r.show();
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        QVERIFY(screen.contains(r.w->frameGeometry()));
+        for (QPushButton* button : r.w->findChildren<QPushButton*>()) {
+            const QRect place(button->mapToGlobal(QPoint()), button->size());
+            QVERIFY2(screen.contains(place), qPrintable(button->objectName()));
+        }
     }
 
     void theWindowKeepsItsSizeAndStaysOnTheScreen()
