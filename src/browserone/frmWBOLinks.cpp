@@ -38,6 +38,7 @@ frmWBOLinks::frmWBOLinks(SavedLinks& links, LinksPanel& rules, QWidget* parent)
     resize(minimumSize());
     m_list = new QListWidget(this);
     ControlBinder::bind(links.lstLinks, m_list);
+    m_list->setAccessibleName(tr("Saved links"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_list);

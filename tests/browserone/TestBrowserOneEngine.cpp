@@ -1,6 +1,7 @@
 #include "EngineEnvironment.h"
 #include "LocalWebServer.h"
 #include "TestContext.h"
+#include "WidgetChecks.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/frmWBOLinks.h"
 #include "browserone/frmWBOne.h"
@@ -129,6 +130,16 @@ private slots:
         QCOMPARE(xtras, (QStringList{"AddFavorite", "Get File List", "SaveAs", "Copy URL", "Reduce",
                                      "On Top"}));
         QCOMPARE(r.windows.browserOne()->findChild<QMenu*>("mnuSearch")->actions().size(), 7);
+    }
+
+    void aScreenReaderCanNameEveryControl()
+    {
+        EngineRig r;
+        r.windows.ShowBrowserOne();
+        r.windows.browserOne()->findChild<QAction*>("mnuSaved")->trigger();
+        QVERIFY(r.windows.linksPanel());
+        QCOMPARE(WidgetChecks::unnamedControls(r.windows.browserOne()), QStringList());
+        QCOMPARE(WidgetChecks::unnamedControls(r.windows.linksPanel()), QStringList());
     }
 
     void theSavedLinksPanelLeavesMaximisedWithItsOwnWidth()

@@ -277,6 +277,12 @@ private slots:
         QCOMPARE(r.t.db.recordCount("UsaSaved"), 1);
     }
 
+    void aScreenReaderCanNameEveryControl()
+    {
+        WindowRig r;
+        QCOMPARE(WidgetChecks::unnamedControls(r.w), QStringList());
+    }
+
     void aStoredPlaceOffTheScreenKeepsTheWholeWindowOnIt()
     {
         WindowRig r([](AppContext& ctx) {
