@@ -29,7 +29,7 @@ void MainStartupUi::showSplash(const QString& status)
     if (!m_splash)
         m_splash =
             std::make_unique<frmStartUp>(m_ctx.state, NeighborhoodPictures::picture(false, 1));
-    m_splash->lblStartUp[3]->setText(status.trimmed());
+    m_splash->setLabel(3, status);
     m_splash->show();
     m_splash->raise();
     while (!m_ctx.state.gblnStartUpShown)

@@ -54,6 +54,11 @@ frmWBOne* WindowRegistry::browserOne() const
     return m_browserOne ? m_browserOne->browserOne() : nullptr;
 }
 
+frmWBOLinks* WindowRegistry::linksPanel() const
+{
+    return m_browserOne ? m_browserOne->linksPanel() : nullptr;
+}
+
 BrowserWindowList& WindowRegistry::browsers()
 {
     return browserOneWindows().browsers();

@@ -11,6 +11,7 @@
 struct AppContext;
 class BrowserOneWindows;
 class frmGeoCities;
+class frmWBOLinks;
 class frmWBOne;
 
 // The program's windows, each made on first use, through which they reach
@@ -25,6 +26,7 @@ public:
     // The main window, made on first use with Browser One's windows.
     frmGeoCities* main(bool create = true);
     frmWBOne* browserOne() const;
+    frmWBOLinks* linksPanel() const;
     BrowserWindowList& browsers();
 
     // NavigatorWindows

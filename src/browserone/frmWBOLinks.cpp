@@ -38,6 +38,7 @@ frmWBOLinks::frmWBOLinks(SavedLinks& links, LinksPanel& rules, QWidget* parent)
     resize(minimumSize());
     m_list = new QListWidget(this);
     ControlBinder::bind(links.lstLinks, m_list);
+    m_list->setAccessibleName(tr("Saved links"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_list);
@@ -62,14 +63,40 @@ void frmWBOLinks::changeEvent(QEvent* event)
         QTimer::singleShot(0, this, &frmWBOLinks::leaveMaximised);
 }
 
+void frmWBOLinks::moveEvent(QMoveEvent* event)
+{
+    QWidget::moveEvent(event);
+    noteNormalPlace();
+}
+
+void frmWBOLinks::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    noteNormalPlace();
+}
+
+// A window manager may hand out the maximised size before it tells the new
+// state, in the same round of events: so a place counts as normal only if
+// the panel is still in its normal state once that round is over.
+void frmWBOLinks::noteNormalPlace()
+{
+    QTimer::singleShot(0, this, [this] {
+        if (!(windowState() & (Qt::WindowMaximized | Qt::WindowMinimized | Qt::WindowFullScreen)))
+            m_normalPlace = QRect(pos(), size());
+    });
+}
+
 // Maximised, the panel takes the screen's height less room for the task
-// bar, and keeps its width.
+// bar, and keeps its left and width.
 void frmWBOLinks::leaveMaximised()
 {
     if (!(windowState() & Qt::WindowMaximized))
         return;
     setWindowState(windowState() & ~Qt::WindowMaximized);
+    // The window system restores the normal size later: until then the
+    // widget still has the maximised one, so the place comes from before.
+    const QRect normal = m_normalPlace.isValid() ? m_normalPlace : QRect(pos(), minimumSize());
     const QRect screen = availableScreen();
-    move(x(), screen.top());
-    resize(width(), screen.height() - twipsToPixels(WindowPlace::TaskBarRoom));
+    move(normal.left(), screen.top());
+    resize(normal.width(), screen.height() - twipsToPixels(WindowPlace::TaskBarRoom));
 }

@@ -21,10 +21,16 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void noteNormalPlace();
     void leaveMaximised();
 
     QPointer<LinksPanel> m_rules;
     QListWidget* m_list = nullptr;
+    // The frame's left and top and the list's size while the panel was
+    // last neither maximised nor minimised.
+    QRect m_normalPlace;
 };

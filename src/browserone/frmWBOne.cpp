@@ -64,6 +64,7 @@ void frmWBOne::buildControls()
     bar->setContentsMargins(3, 3, 3, 3);
     bar->setSpacing(3);
     m_addressBar = new QLineEdit(this);
+    m_addressBar->setAccessibleName(tr("Address"));
     m_addressBar->installEventFilter(this);
     m_addressBar->setMouseTracking(true);
     m_next = new QPushButton(this);

@@ -3,9 +3,11 @@
 #include "Controls.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -25,16 +27,100 @@ void showCommon(const Control& model, QWidget* widget)
         widget->setVisible(true);
 }
 
-// Turns a key press on a widget into the control's Click, as the slider's
-// key handling asks.
-class KeyClick : public QObject
+bool isFocusKey(const QKeyEvent* key)
+{
+    return key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
+}
+
+// The lists take no typing: neither a key nor the wheel chooses an entry of
+// the closed box (Qt's arrow keys, keyboard search and wheel all do, and
+// fire activated), nor a key in its open list. What passes are the keys
+// that move the focus or only open and close the list.
+class NoTyping : public QObject
 {
 public:
-    KeyClick(Control& model, QObject* parent) : QObject(parent), m_model(model) {}
+    explicit NoTyping(QComboBox* combo) : QObject(combo), m_combo(combo)
+    {
+        combo->installEventFilter(this);
+        // Installed after the popup's own filter, so this one sees the keys
+        // first.
+        combo->view()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == m_combo)
+            return closedBox(event);
+        if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)
+            return openList(static_cast<QKeyEvent*>(event));
+        return false;
+    }
+
+private:
+    // Alt+Up is not one of them: on the closed box Qt takes it as Up.
+    static bool opensOrCloses(const QKeyEvent* key)
+    {
+        return key->key() == Qt::Key_F4 || key->key() == Qt::Key_Space ||
+               (key->key() == Qt::Key_Down && (key->modifiers() & Qt::AltModifier));
+    }
+
+    bool closedBox(QEvent* event) const
+    {
+        if (event->type() == QEvent::Wheel)
+            return true;
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool passes = isFocusKey(key) || opensOrCloses(key) || key->key() == Qt::Key_Escape ||
+                            key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        return !passes;
+    }
+
+    // Return, Enter, F4 and Alt+Down would choose the entry under the
+    // pointer: they close the list and choose nothing. Escape closes it as
+    // Qt does; every other key is dropped.
+    bool openList(QKeyEvent* key) const
+    {
+        if (key->key() == Qt::Key_Escape)
+            return false;
+        const bool closes =
+            opensOrCloses(key) || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        if (key->type() == QEvent::ShortcutOverride) {
+            // Keep the key for the list, where the press closes it.
+            if (closes)
+                key->accept();
+            return true;
+        }
+        if (closes)
+            m_combo->hidePopup();
+        return true;
+    }
+
+    QComboBox* m_combo;
+};
+
+// The slider's Click: a press on it, on the handle or the track (which Qt
+// turns into a page step without sliderPressed), the wheel, and a key other
+// than the focus keys. The value change that follows is its Change.
+class SliderClick : public QObject
+{
+public:
+    SliderClick(Control& model, QObject* parent) : QObject(parent), m_model(model) {}
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() == QEvent::KeyPress)
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
             m_model.click();
+            break;
+        case QEvent::KeyPress:
+            if (!isFocusKey(static_cast<QKeyEvent*>(event)))
+                m_model.click();
+            break;
+        default:
+            break;
+        }
         return false;
     }
 
@@ -80,6 +166,10 @@ void bind(ListControl& model, QComboBox* combo)
 {
     combo->setObjectName(model.name());
     combo->setEditable(false);
+    // Fusion and the other styles that show the list as a menu ignore
+    // maxVisibleItems and open a column the height of the screen.
+    combo->setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+    new NoTyping(combo);
     auto showItems = [&model, combo] {
         const QSignalBlocker block(combo);
         combo->clear();
@@ -147,8 +237,7 @@ void bind(SliderControl& model, QSlider* slider)
         } catch (...) {
         }
     });
-    QObject::connect(slider, &QSlider::sliderPressed, &model, [&model] { model.click(); });
-    slider->installEventFilter(new KeyClick(model, slider));
+    slider->installEventFilter(new SliderClick(model, slider));
 }
 
 void bind(Control& model, QLineEdit* edit)

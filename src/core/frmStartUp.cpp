@@ -45,9 +45,9 @@ frmStartUp::frmStartUp(SharedState& state, const QPixmap& house)
     const QStringList texts = {version, QStringLiteral("\rNeighborhoods and Suburbs of both sites"),
                                QStringLiteral("\rsaved links, AutoNav and RandNav"), QString()};
     for (int i = 0; i < 4; ++i) {
-        lblStartUp[i] = make(qPrintable(QStringLiteral("lblStartUp[%1]").arg(i)),
-                             texts[i].trimmed(), i == 3 ? 12 : 11);
-        lblStartUp[i]->setProperty("vbText", texts[i]);
+        lblStartUp[i] =
+            make(qPrintable(QStringLiteral("lblStartUp[%1]").arg(i)), QString(), i == 3 ? 12 : 11);
+        setLabel(i, texts[i]);
     }
     Label12 = make("Label12", QStringLiteral("One home page at a time"), 9);
     setFixedSize(sizeHint().expandedTo(QSize(380, 220)));
@@ -58,6 +58,16 @@ frmStartUp::frmStartUp(SharedState& state, const QPixmap& house)
         move(area.left() + (area.width() - width()) / 2,
              area.top() + (area.height() - height()) / 2);
     }
+}
+
+// The texts stand as the program writes them, leading blanks included; a
+// carriage return is a line break.
+void frmStartUp::setLabel(int index, const QString& text)
+{
+    QString shown = text;
+    shown.replace(QLatin1String("\r\n"), QLatin1String("\n"))
+        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    lblStartUp.at(index)->setText(shown);
 }
 
 frmStartUp::~frmStartUp()

@@ -20,6 +20,8 @@ public:
     QLabel* Label1;
     QLabel* Label12;
     std::array<QLabel*, 4> lblStartUp;
+    // Sets the text of lblStartUp(index); 3 is the status line.
+    void setLabel(int index, const QString& text);
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -14,9 +14,6 @@
 
 namespace {
 const char* const NoConnection = "No internet connection!";
-// The part of the main window that the clamp keeps on the screen.
-constexpr int VisibleWidthTwips = 4260;
-constexpr int VisibleHeightTwips = 2850;
 
 QString flagText(bool flag)
 {
@@ -44,13 +41,12 @@ void Navigator::connectEvents()
     connect(&m_c.mnuRandNav, &Control::clicked, this, &Navigator::RandNavClick);
 }
 
-QPoint Navigator::ClampMainPlace(int left, int top, const QRect& screen)
+QPoint Navigator::ClampMainPlace(int left, int top, const QSize& window, const QRect& screen)
 {
-    left = std::max(left, 0);
-    top = std::max(top, 0);
-    top = std::min(top, screen.height() - VisibleHeightTwips);
-    left = std::min(left, screen.width() - VisibleWidthTwips);
-    return {left, top};
+    top = std::min(top, screen.height() - window.height());
+    left = std::min(left, screen.width() - window.width());
+    // Last, so that a window larger than the screen keeps its title bar on it.
+    return {std::max(left, 0), std::max(top, 0)};
 }
 
 void Navigator::Load()
@@ -63,7 +59,7 @@ void Navigator::Load()
         Vb::CLng(m_ctx.GetSetting(Sect::VorlanMain, Key::MF_T, QString::number(defaultTop)));
     const int left =
         Vb::CLng(m_ctx.GetSetting(Sect::VorlanMain, Key::MF_L, QString::number(defaultLeft)));
-    const QPoint place = ClampMainPlace(left, top, screen);
+    const QPoint place = ClampMainPlace(left, top, window.size(), screen);
     m_host.moveWindowTwips(place.x(), place.y());
     m_composer.FillDigitLists();
     m_composer.ComposeAddress();

@@ -79,9 +79,9 @@ public:
     void GeoChatClick();
     void PictureClick();
 
-    // The clamp of a stored main window place: negative becomes 0, and
-    // 4260 by 2850 twips of the window stay on the screen.
-    static QPoint ClampMainPlace(int left, int top, const QRect& screen);
+    // The clamp of a stored main window place, all in twips: the window of
+    // that size stays whole on the screen, and negative becomes 0.
+    static QPoint ClampMainPlace(int left, int top, const QSize& window, const QRect& screen);
 
     // Stops the load in Browser One, if it is open.
     void browserStop();

@@ -20,10 +20,11 @@
 #include <QSlider>
 
 namespace {
-QLabel* caption(const QString& name, const QString& text, QWidget* parent)
+QLabel* caption(const QString& name, const QString& text, QWidget* parent, QWidget* buddy)
 {
     auto* label = new QLabel(text, parent);
     label->setObjectName(name);
+    label->setBuddy(buddy);
     return label;
 }
 } // namespace
@@ -38,6 +39,9 @@ frmGeoCities::frmGeoCities(AppContext& ctx, NavigatorWindows& windows)
     buildMenus();
     adjustSize();
     setFixedSize(sizeHint());
+    // Made before the load's clamp, so that the frame counts where the
+    // window system already knows it.
+    create();
     m_nav.Load();
 }
 
@@ -71,9 +75,11 @@ void frmGeoCities::buildControls()
     suburb->setMaxVisibleItems(20);
     ControlBinder::bind(c.cmbNeighborhood, neighborhood);
     ControlBinder::bind(c.cmbSuburb, suburb);
-    grid->addWidget(caption("lblneighborhood", tr("Neighb"), central), 0, 1);
+    // A screen reader names each list, the slider and the address box by its
+    // label, or by an accessible name where no label stands beside it.
+    grid->addWidget(caption("lblneighborhood", tr("Neighb"), central, neighborhood), 0, 1);
     grid->addWidget(neighborhood, 0, 2, 1, 3);
-    grid->addWidget(caption("lblSuburb", tr("Suburb"), central), 1, 1);
+    grid->addWidget(caption("lblSuburb", tr("Suburb"), central, suburb), 1, 1);
     grid->addWidget(suburb, 1, 2, 1, 3);
 
     auto* prefix = new QComboBox(central);
@@ -85,7 +91,9 @@ void frmGeoCities::buildControls()
     auto* slider = new QSlider(Qt::Horizontal, central);
     slider->setPageStep(100);
     ControlBinder::bind(c.sldrHouseNumber, slider);
-    grid->addWidget(caption("Label1", tr("House"), central), 2, 1);
+    suffix->setAccessibleName(tr("House number, last two digits"));
+    slider->setAccessibleName(tr("House number"));
+    grid->addWidget(caption("Label1", tr("House"), central, prefix), 2, 1);
     grid->addWidget(prefix, 2, 2);
     grid->addWidget(suffix, 2, 3);
     grid->addWidget(slider, 2, 4);
@@ -102,6 +110,7 @@ void frmGeoCities::buildControls()
 
     auto* address = new QLineEdit(central);
     ControlBinder::bind(c.txtFullAddress, address);
+    address->setAccessibleName(tr("Address"));
     grid->addWidget(address, 4, 0, 1, 5);
 
     auto* buttons = new QHBoxLayout;
@@ -119,8 +128,11 @@ void frmGeoCities::buildControls()
     savedLinks->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     savedLinks->setMinimumContentsLength(20);
     ControlBinder::bind(c.cmbSavedLinks, savedLinks);
+    savedLinks->setAccessibleName(tr("Saved links"));
     saved->addWidget(savedLinks, 1);
-    for (Control* model : {&c.cmdSavedLinks0, &c.cmdSavedLinks1}) {
+    // Delete shows beside Save on the inside, so Save (Return while a link
+    // is on show) stays where it stood.
+    for (Control* model : {&c.cmdSavedLinks1, &c.cmdSavedLinks0}) {
         auto* button = new QPushButton(central);
         button->setAutoDefault(false);
         ControlBinder::bind(*model, button);

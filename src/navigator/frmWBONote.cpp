@@ -23,6 +23,8 @@ frmWBONote::frmWBONote(AppContext& ctx, SavedLinks& links,
     // A field holds no more; a longer title or paste is cut as it comes in.
     m_comment->setMaxLength(TextDatabase::MaxFieldLength);
     ControlBinder::bind(m_rules.txtComment, m_comment);
+    // No label stands beside the box: a screen reader names it by this.
+    m_comment->setAccessibleName(tr("Note"));
     m_comment->installEventFilter(this);
 
     m_ok = new QPushButton(tr("&Ok"), this);

@@ -67,6 +67,13 @@ private slots:
         QVERIFY(qAbs(splash->geometry().center().x() - screen.center().x()) <= 1);
         QVERIFY(qAbs(splash->geometry().center().y() - screen.center().y()) <= 1);
         QCOMPARE(splash->lblStartUp[3]->font().family(), QString("Times New Roman"));
+        // The texts as the program writes them: leading blanks stay, the
+        // carriage returns behind are line breaks, and the line fits.
+        QCOMPARE(splash->lblStartUp[0]->text(), QString("   Vorlan Version 1.00\n\n"));
+        QCOMPARE(splash->lblStartUp[1]->text().left(1), QString("\n"));
+        QLabel* status = splash->lblStartUp[3];
+        QCOMPARE(status->text(), QString("    Creating Database..."));
+        QVERIFY(status->width() >= status->sizeHint().width());
 
         r.ui.unloadSplash();
         QVERIFY(!r.t.state.gblnStartUpShown);
@@ -74,6 +81,7 @@ private slots:
         // The second splash of a start is a new one, shown the same way.
         r.ui.showSplash(QStringLiteral("    Loading Data..."));
         QVERIFY(r.t.state.gblnStartUpShown && splashOnScreen());
+        QCOMPARE(splashOnScreen()->lblStartUp[3]->text(), QString("    Loading Data..."));
         r.ui.unloadSplash();
     }
 

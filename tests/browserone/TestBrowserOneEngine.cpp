@@ -1,14 +1,19 @@
 #include "EngineEnvironment.h"
 #include "LocalWebServer.h"
 #include "TestContext.h"
+#include "WidgetChecks.h"
 #include "app/WindowRegistry.h"
 #include "browserone/WebBrowserControl.h"
+#include "browserone/frmWBOLinks.h"
 #include "browserone/frmWBOne.h"
+#include "core/WindowPlace.h"
 #include "navigator/frmGeoCities.h"
 
 #include <QApplication>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QScreen>
+#include <QWindow>
 #include <QtTest>
 
 namespace {
@@ -125,6 +130,53 @@ private slots:
         QCOMPARE(xtras, (QStringList{"AddFavorite", "Get File List", "SaveAs", "Copy URL", "Reduce",
                                      "On Top"}));
         QCOMPARE(r.windows.browserOne()->findChild<QMenu*>("mnuSearch")->actions().size(), 7);
+    }
+
+    void aScreenReaderCanNameEveryControl()
+    {
+        EngineRig r;
+        r.windows.ShowBrowserOne();
+        r.windows.browserOne()->findChild<QAction*>("mnuSaved")->trigger();
+        QVERIFY(r.windows.linksPanel());
+        QCOMPARE(WidgetChecks::unnamedControls(r.windows.browserOne()), QStringList());
+        QCOMPARE(WidgetChecks::unnamedControls(r.windows.linksPanel()), QStringList());
+    }
+
+    void theSavedLinksPanelLeavesMaximisedWithItsOwnWidth()
+    {
+        EngineRig r;
+        AppContext& ctx = r.t.ctx;
+        ctx.SaveSetting("Startup", "LinksL", "1500");
+        ctx.SaveSetting("Startup", "LinksT", "1200");
+        ctx.SaveSetting("Startup", "LinksW", "6000");
+        ctx.SaveSetting("Startup", "LinksH", "4500");
+        r.windows.ShowBrowserOne();
+        QAction* saved = r.windows.browserOne()->findChild<QAction*>("mnuSaved");
+        saved->trigger();
+        frmWBOLinks* panel = r.windows.linksPanel();
+        QVERIFY(panel);
+        QVERIFY(QTest::qWaitForWindowExposed(panel));
+
+        // Maximised by the window manager, which may give the new size
+        // before the state, and by a call of the program; either way the
+        // panel goes back at once to its own left and width, at the top of
+        // the screen and the screen's height less the task bar's room.
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        const int height = screen.height() - twipsToPixels(WindowPlace::TaskBarRoom);
+        panel->windowHandle()->setWindowStates(Qt::WindowMaximized);
+        QTRY_COMPARE(panel->height(), height);
+        panel->resize(panel->width(), 300);
+        QTRY_COMPARE(panel->height(), 300);
+        panel->showMaximized();
+        QTRY_COMPARE(panel->height(), height);
+        QVERIFY(!(panel->windowState() & Qt::WindowMaximized));
+
+        saved->trigger();
+        QTRY_VERIFY(!r.windows.linksPanel());
+        QCOMPARE(ctx.GetSetting("Startup", "LinksW"), QString("6000"));
+        QCOMPARE(ctx.GetSetting("Startup", "LinksL"), QString("1500"));
+        QCOMPARE(ctx.GetSetting("Startup", "LinksT"), QString::number(pixelsToTwips(screen.top())));
+        QCOMPARE(ctx.GetSetting("Startup", "LinksH"), QString::number(pixelsToTwips(height)));
     }
 
     void popUpsAreRefusedBeforeTheyOpen()

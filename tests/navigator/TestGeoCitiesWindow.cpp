@@ -1,16 +1,20 @@
 #include "EngineEnvironment.h"
 #include "TestContext.h"
+#include "WidgetChecks.h"
 #include "app/WindowRegistry.h"
 #include "browserone/frmWBOne.h"
 #include "navigator/frmGeoCities.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSlider>
 #include <QtTest>
+#include <functional>
 
 namespace {
 // The captions of a menu's entries, submenus as "caption>" and separators as "-".
@@ -28,11 +32,19 @@ struct WindowRig
     WindowRegistry windows{t.ctx};
     frmGeoCities* w = nullptr;
 
-    WindowRig()
+    // beforeLoad runs on the new database, before the window is made.
+    explicit WindowRig(const std::function<void(AppContext&)>& beforeLoad = {})
     {
         t.createAndOpenDatabase();
+        if (beforeLoad)
+            beforeLoad(t.ctx);
         w = windows.main();
         w->navigator().LoadCatalogue();
+    }
+    void show()
+    {
+        w->show();
+        QVERIFY(QTest::qWaitForWindowExposed(w));
     }
     template <typename T> T* find(const QString& name)
     {
@@ -52,6 +64,8 @@ struct WindowRig
         emit box->activated(i);
     }
     QString address() { return find<QLineEdit>("txtFullAddress")->text(); }
+    // Saves the address on show with a note, as the note dialog's Ok does.
+    void saveLink(const QString& note) { w->navigator().savedLinks().SaveNote(note); }
 };
 } // namespace
 
@@ -128,6 +142,160 @@ private slots:
         japan->trigger();
         QVERIFY(!japan->isChecked());
         QCOMPARE(r.w->windowTitle(), QString("Navigate GeoCities USA"));
+    }
+
+    void theListsTakeNoTyping()
+    {
+        WindowRig r;
+        r.choose("cmbNeighborhood", "SoHo");
+        r.choose("cmbSuburb", "Lofts");
+        r.saveLink("lofts");
+        r.choose("cmbNeighborhood", "Paris");
+        r.saveLink("paris");
+        r.choose("cmbSavedLinks", "lofts");
+        r.show();
+        NavigatorControls& c = r.w->navigator().controls();
+        const QString shown = r.address();
+        for (ListControl* model : {&c.cmbNeighborhood, &c.cmbSuburb, &c.cmbHouseNumberPrefix,
+                                   &c.cmbHouseNumberSuffix, &c.cmbSavedLinks}) {
+            const QString name = model->name();
+            QComboBox* box = r.find<QComboBox>(name);
+            QSignalSpy clicks(model, &Control::clicked);
+            const int index = box->currentIndex();
+            // Arrows, paging and Qt's keyboard search on the closed box.
+            for (Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_End,
+                                Qt::Key_Home, Qt::Key_P, Qt::Key_S, Qt::Key_9, Qt::Key_0})
+                QTest::keyClick(box, key);
+            QTest::keyClick(box, Qt::Key_Up, Qt::AltModifier);
+            WidgetChecks::wheel(box, -1);
+            WidgetChecks::wheel(box, 2);
+            // The open list: keys move nothing, and Return and F4 close it
+            // without choosing the entry they would have chosen.
+            for (Qt::Key closer : {Qt::Key_Return, Qt::Key_F4}) {
+                box->showPopup();
+                QAbstractItemView* list = box->view();
+                QTRY_VERIFY(list->isVisible());
+                for (Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_P, Qt::Key_End})
+                    QTest::keyClick(list, key);
+                QTest::keyClick(list, closer);
+                QTRY_VERIFY(!list->isVisible());
+            }
+            QVERIFY2(clicks.isEmpty(), qPrintable(name));
+            QCOMPARE(box->currentIndex(), index);
+            QCOMPARE(r.address(), shown);
+        }
+        QCOMPARE(c.cmbSavedLinks.text(), QString("lofts"));
+        QCOMPARE(c.cmdSavedLinks0.text(), QString("Return"));
+
+        // The mouse still chooses, and the focus keys still pass.
+        QComboBox* hood = r.find<QComboBox>("cmbNeighborhood");
+        hood->showPopup();
+        QAbstractItemView* list = hood->view();
+        QTRY_VERIFY(list->isVisible());
+        const QModelIndex paris = list->model()->index(hood->findText("Paris"), 0);
+        list->scrollTo(paris);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(paris).center());
+        QTRY_VERIFY(!list->isVisible());
+        QCOMPARE(r.address(), QString("geocities.com/Paris/1000/"));
+        QCOMPARE(c.cmdSavedLinks0.text(), QString("Save"));
+        r.w->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(r.w));
+        hood->setFocus();
+        QTest::keyClick(hood, Qt::Key_Tab);
+        QVERIFY(r.find<QComboBox>("cmbSuburb")->hasFocus());
+    }
+
+    void theDropDownsOpenAboutTwentyRowsHigh()
+    {
+        WindowRig r;
+        r.show();
+        for (const char* name :
+             {"cmbNeighborhood", "cmbHouseNumberPrefix", "cmbHouseNumberSuffix"}) {
+            QComboBox* box = r.find<QComboBox>(name);
+            QVERIFY(box->count() > 40);
+            box->showPopup();
+            QAbstractItemView* list = box->view();
+            QTRY_VERIFY(list->isVisible());
+            const int rows = qRound(double(list->viewport()->height()) / list->sizeHintForRow(0));
+            QVERIFY2(rows >= 18 && rows <= 21, qPrintable(QString::number(rows) + " in " + name));
+            box->hidePopup();
+        }
+    }
+
+    void everyTouchOfTheSliderLeavesTheSavedLink()
+    {
+        WindowRig r;
+        r.choose("cmbHouseNumberPrefix", "12");
+        r.saveLink("twelve hundred");
+        r.choose("cmbHouseNumberPrefix", "50");
+        r.show();
+        QSlider* slider = r.find<QSlider>("sldrHouseNumber");
+        QPushButton* save = r.find<QPushButton>("cmdSavedLinks[0]");
+        const std::function<void()> touches[] = {
+            // The track far right of the handle: a page step, no sliderPressed.
+            [&] {
+                QTest::mouseClick(slider, Qt::LeftButton, {},
+                                  QPoint(slider->width() - 3, slider->height() / 2));
+            },
+            [&] { QTest::keyClick(slider, Qt::Key_Right); },
+            [&] { WidgetChecks::wheel(slider, 1); },
+        };
+        for (const auto& touch : touches) {
+            r.choose("cmbSavedLinks", "twelve hundred");
+            QCOMPARE(save->text(), QString("Return"));
+            touch();
+            QVERIFY(slider->value() != 1200);
+            QCOMPARE(save->text(), QString("Save"));
+            QVERIFY(r.find<QPushButton>("cmdSavedLinks[1]")->isHidden());
+            QCOMPARE(r.address(), "geocities.com/Area51/" + QString::number(slider->value()) + "/");
+            // Save now keeps the new number: no Return brings back 5000.
+            QVERIFY(!r.w->navigator().savedLinks().SavedViewActive);
+        }
+    }
+
+    void saveStaysWhereItStoodWhenALinkIsOnShow()
+    {
+        WindowRig r;
+        r.choose("cmbNeighborhood", "SoHo");
+        r.saveLink("soho");
+        r.choose("cmbNeighborhood", "Paris");
+        r.show();
+        QPushButton* save = r.find<QPushButton>("cmdSavedLinks[0]");
+        QPushButton* remove = r.find<QPushButton>("cmdSavedLinks[1]");
+        const QPoint spot = save->mapTo(r.w, save->rect().center());
+
+        r.choose("cmbSavedLinks", "soho");
+        QTRY_VERIFY(remove->isVisible());
+        QCoreApplication::sendPostedEvents(); // the layout places Delete
+        QCOMPARE(r.w->childAt(spot), static_cast<QWidget*>(save));
+        QVERIFY(remove->geometry().right() < save->geometry().left());
+        QVERIFY(remove->geometry().left() > r.find<QComboBox>("cmbSavedLinks")->geometry().left());
+
+        // A press where Save stood is Return and deletes nothing.
+        QTest::mouseClick(save, Qt::LeftButton);
+        QCOMPARE(r.address(), QString("geocities.com/Paris/1000/"));
+        QCOMPARE(r.t.db.recordCount("UsaSaved"), 1);
+    }
+
+    void aScreenReaderCanNameEveryControl()
+    {
+        WindowRig r;
+        QCOMPARE(WidgetChecks::unnamedControls(r.w), QStringList());
+    }
+
+    void aStoredPlaceOffTheScreenKeepsTheWholeWindowOnIt()
+    {
+        WindowRig r([](AppContext& ctx) {
+            ctx.SaveSetting("VorlanMain", "MF_L", "99999");
+            ctx.SaveSetting("VorlanMain", "MF_T", "99999");
+        });
+        r.show();
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        QVERIFY(screen.contains(r.w->frameGeometry()));
+        for (QPushButton* button : r.w->findChildren<QPushButton*>()) {
+            const QRect place(button->mapToGlobal(QPoint()), button->size());
+            QVERIFY2(screen.contains(place), qPrintable(button->objectName()));
+        }
     }
 
     void theWindowKeepsItsSizeAndStaysOnTheScreen()

@@ -144,20 +144,29 @@ private slots:
     {
         QTest::addColumn<QString>("left");
         QTest::addColumn<QString>("top");
+        QTest::addColumn<QSize>("window");
         QTest::addColumn<QPoint>("place");
+        const QSize usual(6240, 3750);
         QTest::newRow("stored place") << "3000"
-                                      << "1500" << QPoint(3000, 1500);
+                                      << "1500" << usual << QPoint(3000, 1500);
         QTest::newRow("negative") << "-900"
-                                  << "-15" << QPoint(0, 0);
-        QTest::newRow("off right and bottom") << "99999"
-                                              << "99999" << QPoint(15360 - 4260, 11520 - 2850);
+                                  << "-15" << usual << QPoint(0, 0);
+        QTest::newRow("off right and bottom")
+            << "99999"
+            << "99999" << usual << QPoint(15360 - 6240, 11520 - 3750);
+        QTest::newRow("one twip over") << "9121"
+                                       << "7771" << usual << QPoint(9120, 7770);
+        QTest::newRow("larger than the screen") << "500"
+                                                << "500" << QSize(20000, 12000) << QPoint(0, 0);
     }
     void theLoadClampKeepsTheWindowOnScreen()
     {
         QFETCH(QString, left);
         QFETCH(QString, top);
+        QFETCH(QSize, window);
         QFETCH(QPoint, place);
         NavigatorRig r;
+        r.host.window.setSize(window);
         r.t.ctx.SaveSetting("VorlanMain", "MF_L", left);
         r.t.ctx.SaveSetting("VorlanMain", "MF_T", top);
         r.nav.Load();
@@ -168,7 +177,7 @@ private slots:
     {
         NavigatorRig r;
         r.nav.Load();
-        QCOMPARE(r.host.window.topLeft(), QPoint((15360 - 4260) / 2, (11520 - 2850) / 2));
+        QCOMPARE(r.host.window.topLeft(), QPoint((15360 - 6240) / 2, (11520 - 3750) / 2));
     }
 
     void onTopFollowsTheBrowserOnlyWhenSynchronised()

@@ -1,4 +1,5 @@
 #include "NavigatorRig.h"
+#include "WidgetChecks.h"
 #include "navigator/frmWBONote.h"
 
 #include <QLineEdit>
@@ -31,6 +32,7 @@ private slots:
             QLineEdit* box = note.findChild<QLineEdit*>("txtComment");
             QCOMPARE(box, note.txtComment());
             QCOMPARE(box->text(), QString(255, 'n'));
+            QCOMPARE(WidgetChecks::unnamedControls(&note), QStringList());
             QTest::mouseClick(cancel, Qt::LeftButton);
             QVERIFY(!r.t.state.gblnNoteOpen);
         }

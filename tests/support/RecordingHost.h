@@ -17,7 +17,7 @@ public:
     explicit RecordingHost(SharedState& state) : m_state(state) {}
 
     QRect screen{0, 0, 15360, 11520}; // 1024 by 768 pixels
-    QRect window{0, 0, 4260, 2850};
+    QRect window{0, 0, 6240, 3750};   // about the main window's size
     QStringList calls;
     // Windows this host has; showWindow of others returns false.
     QList<ProgramWindow> available;
