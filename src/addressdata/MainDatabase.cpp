@@ -91,7 +91,7 @@ bool VerifyMainDatabase(const QString& path, const TableNameArray& tables)
     for (int index = 0; index < Tbl::MainTableCount; ++index) {
         try {
             // By name: a table without one of its fields fails here.
-            db.readAll(tables[index][0], FieldNames(tables, index));
+            db.scan(tables[index][0], FieldNames(tables, index));
         } catch (const DbError&) {
             sound = false;
         }

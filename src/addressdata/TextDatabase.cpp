@@ -229,6 +229,20 @@ int TextDatabase::recordCount(const QString& table) const
     return query.value(0).toInt();
 }
 
+void TextDatabase::scan(const QString& table, const QStringList& fields) const
+{
+    requireOpen();
+    QStringList counted;
+    for (const QString& field : fields)
+        counted.append(QStringLiteral("count(%1)").arg(quoted(field)));
+    if (counted.isEmpty())
+        counted.append(QStringLiteral("count(*)"));
+    QSqlQuery query(handle());
+    if (!query.exec(QStringLiteral("SELECT %1 FROM %2").arg(counted.join(", "), quoted(table))) ||
+        !query.next())
+        fail(QStringLiteral("Cannot read ") + table, query.lastError());
+}
+
 void TextDatabase::append(const QString& table, const QStringList& fields,
                           const QVector<QStringList>& rows)
 {

@@ -56,6 +56,10 @@ public:
     // lacks one of them is a fault.
     QVector<TextRecord> readAll(const QString& table, const QStringList& fields = {}) const;
     int recordCount(const QString& table) const;
+    // Reads every record of the table inside the engine, the given fields
+    // by name, without handing them out: the check of a table. Throws
+    // DbError when the table, a field or a page of it is missing or damaged.
+    void scan(const QString& table, const QStringList& fields) const;
     // Appends records in one transaction; all or none are stored. A null
     // text is stored as the empty text.
     void append(const QString& table, const QStringList& fields, const QVector<QStringList>& rows);

@@ -5,12 +5,15 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
+#include <QProxyStyle>
 #include <QSignalBlocker>
 #include <QSlider>
 
@@ -128,6 +131,31 @@ private:
     Control& m_model;
 };
 
+// The application's style, except that a combo box opens its list as a
+// list of maxVisibleItems rows rather than as a menu.
+class ListPopupStyle : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override
+    {
+        if (hint == SH_ComboBox_Popup)
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
+
+// One for all combo boxes, made with the first and owned by the application.
+QStyle* listPopupStyle()
+{
+    static QPointer<QStyle> style;
+    if (!style) {
+        style = new ListPopupStyle;
+        style->setParent(qApp);
+    }
+    return style;
+}
+
 } // namespace
 
 namespace ControlBinder {
@@ -168,7 +196,7 @@ void bind(ListControl& model, QComboBox* combo)
     combo->setEditable(false);
     // Fusion and the other styles that show the list as a menu ignore
     // maxVisibleItems and open a column the height of the screen.
-    combo->setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+    combo->setStyle(listPopupStyle());
     new NoTyping(combo);
     auto showItems = [&model, combo] {
         const QSignalBlocker block(combo);
@@ -186,6 +214,13 @@ void bind(ListControl& model, QComboBox* combo)
     show();
     QObject::connect(&model, &ListControl::itemsChanged, combo, [showItems, show] {
         showItems();
+        show();
+    });
+    QObject::connect(&model, &ListControl::itemAdded, combo, [&model, combo, show](int index) {
+        {
+            const QSignalBlocker block(combo);
+            combo->insertItem(index, model.item(index));
+        }
         show();
     });
     QObject::connect(&model, &Control::viewChanged, combo, show);
@@ -210,6 +245,13 @@ void bind(ListControl& model, QListWidget* list)
     show();
     QObject::connect(&model, &ListControl::itemsChanged, list, [showItems, show] {
         showItems();
+        show();
+    });
+    QObject::connect(&model, &ListControl::itemAdded, list, [&model, list, show](int index) {
+        {
+            const QSignalBlocker block(list);
+            list->insertItem(index, model.item(index));
+        }
         show();
     });
     QObject::connect(&model, &Control::viewChanged, list, show);

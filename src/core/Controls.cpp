@@ -61,7 +61,7 @@ void ListControl::setListIndex(int index)
 void ListControl::addItem(const QString& item)
 {
     m_items.append(item);
-    emit itemsChanged();
+    emit itemAdded(m_items.size() - 1);
     if (m_index < 0 && !text().isEmpty())
         matchIndex();
 }

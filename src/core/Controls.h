@@ -76,7 +76,10 @@ public:
     void userSelect(int index);
 
 signals:
+    // The whole list changed (emptied).
     void itemsChanged();
+    // One entry was added at the end, at index.
+    void itemAdded(int index);
 
 private:
     void textSet() override { matchIndex(); }

@@ -105,7 +105,20 @@ private slots:
         QVERIFY(r.find<QPushButton>("cmdSavedLinks[1]")->isHidden());
         QVERIFY(!r.find<QPushButton>("cmdGoBack")->isEnabled());
 
+        // Each list shows its model's entries in order, refilled or added to.
+        NavigatorControls& c = r.w->navigator().controls();
+        auto texts = [&r](const char* name) {
+            QStringList list;
+            QComboBox* box = r.find<QComboBox>(name);
+            for (int i = 0; i < box->count(); ++i)
+                list << box->itemText(i);
+            return list;
+        };
+        QCOMPARE(texts("cmbNeighborhood"), c.cmbNeighborhood.items());
+        QCOMPARE(texts("cmbHouseNumberSuffix"), c.cmbHouseNumberSuffix.items());
         r.choose("cmbNeighborhood", "SoHo");
+        QCOMPARE(texts("cmbSuburb"), c.cmbSuburb.items());
+        QVERIFY(c.cmbSuburb.items().contains("Lofts"));
         r.choose("cmbSuburb", "Lofts");
         r.choose("cmbHouseNumberPrefix", "42");
         QCOMPARE(r.address(), QString("geocities.com/SoHo/Lofts/4200/"));
