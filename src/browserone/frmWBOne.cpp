@@ -16,6 +16,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -80,15 +81,9 @@ void frmWBOne::buildControls()
     m_control = new WebBrowserControl(m_view, m_windows.profile());
     m_control->openWindow = [this] { return m_windows.openPopUp(); };
     m_windows.browsers().addOwn(this, [this] { close(); });
-    // The page's widget appears once the engine has made it; it is what
-    // receives the pointer's moves.
-    m_view->installEventFilter(this);
-    connect(m_view->page(), &QWebEnginePage::loadStarted, this, [this] {
-        if (QWidget* proxy = m_view->focusProxy()) {
-            proxy->setMouseTracking(true);
-            proxy->installEventFilter(this);
-        }
-    });
+    // The hover menu answers the window's own strip around the address bar,
+    // never the page: there it would cover the links a user clicks.
+    setMouseTracking(true);
 }
 
 void frmWBOne::buildMenu()
@@ -135,8 +130,7 @@ void frmWBOne::hover(const QPoint& pos, bool overAddressBar)
         return;
     if (overAddressBar && m_rules->AddressBarHasFocus)
         return;
-    const QPoint inWindow =
-        overAddressBar ? m_addressBar->mapTo(this, pos) : m_view->mapTo(this, pos);
+    const QPoint inWindow = overAddressBar ? m_addressBar->mapTo(this, pos) : pos;
     if (!BrowserOne::HoverMenuAt(inWindow.x(), inWindow.y(), m_view->width(), m_view->height(),
                                  overAddressBar))
         return;
@@ -170,10 +164,14 @@ bool frmWBOne::eventFilter(QObject* watched, QEvent* event)
         default:
             break;
         }
-    } else if (event->type() == QEvent::MouseMove && watched != this) {
-        hover(static_cast<QMouseEvent*>(event)->position().toPoint(), false);
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void frmWBOne::mouseMoveEvent(QMouseEvent* event)
+{
+    hover(event->position().toPoint(), false);
+    QWidget::mouseMoveEvent(event);
 }
 
 void frmWBOne::keyPressEvent(QKeyEvent* event)

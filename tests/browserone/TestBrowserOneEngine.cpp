@@ -7,14 +7,20 @@
 #include "navigator/frmGeoCities.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QWebEngineView>
 #include <QtTest>
 
 namespace {
 
-// House numbers that stall instead of completing, shared with the server.
+// House numbers that stall instead of completing, shared with the server:
+// in the document itself, or in a picture whose answer never arrives.
 QSet<QString> stalledHouses;
+QSet<QString> stalledPictureHouses;
+
+const QByteArray Untitled = "<html><body>A page without a title</body></html>";
 
 LocalWebServer::Reply answer(const QString& url)
 {
@@ -26,9 +32,19 @@ LocalWebServer::Reply answer(const QString& url)
                               "<img src='http://www.geocities.com/slow.gif'>")};
     if (url.endsWith(QLatin1String("/slow.gif")))
         return {QByteArray(), 404, false, 400};
+    if (url.endsWith(QLatin1String("/never.gif")))
+        return {QByteArray(), 200, true};
+    if (url.endsWith(QLatin1String("/untitled/")) ||
+        url == QLatin1String("http://www.geocities.com/"))
+        return {Untitled};
     if (m.hasMatch()) {
         const QString number = m.captured(1);
-        return {LocalWebServer::page("House " + number), 200, stalledHouses.contains(number)};
+        const QString picture =
+            stalledPictureHouses.contains(number)
+                ? QStringLiteral("<img src='http://www.geocities.com/never.gif'>")
+                : QString();
+        return {LocalWebServer::page("House " + number, "House " + number + picture), 200,
+                stalledHouses.contains(number)};
     }
     return {LocalWebServer::page("Elsewhere")};
 }
@@ -54,6 +70,7 @@ struct EngineRig
     }
     BrowserOne& one() { return windows.browserOne()->rules(); }
     bool done() { return windows.browserOne() && one().form.text().endsWith("[Done]"); }
+    QLineEdit* addressBar() { return windows.browserOne()->findChild<QLineEdit*>("txtAddressBar"); }
 };
 
 } // namespace
@@ -82,8 +99,10 @@ private slots:
 
     void init()
     {
+        server.releaseStalled();
         server.requested.clear();
         stalledHouses.clear();
+        stalledPictureHouses.clear();
     }
 
     void openShowsThePageWithItsProgressInTheCaption()
@@ -176,6 +195,41 @@ private slots:
         const QStringList walked = houses();
         QCOMPARE(walked.mid(0, 5), (QStringList{"1001", "1002", "1003", "1004", "1005"}));
         QCOMPARE(r.one().mnuAutoNav.isChecked(), false);
+    }
+
+    // The menu opens over the window's own strip around the address bar,
+    // never over the page, where a click meant for a link would land on it.
+    void theHoverMenuAnswersTheWindowNotThePage()
+    {
+        EngineRig r;
+        r.nav->controls().cmdOpenSite.click();
+        QTRY_VERIFY_WITH_TIMEOUT(r.done(), 20000);
+        frmWBOne* window = r.windows.browserOne();
+        QMenu* menu = window->mnuCopy();
+        QWindow* screen = window->windowHandle();
+        const QWidget* page = window->WBOne();
+        const int width = page->width();
+        for (const QPoint& at :
+             {QPoint(width / 2, 10), QPoint(width / 2, 40), QPoint(width / 3, 5)})
+            QTest::mouseMove(screen, page->mapTo(window, at));
+        QTest::qWait(100);
+        QVERIFY(!menu->isVisible());
+
+        QTest::mouseMove(screen, QPoint(width / 2, 1));
+        QTRY_VERIFY(menu->isVisible());
+        menu->hide();
+        QTest::mouseMove(screen, QPoint(width * 9 / 10, 1)); // right of 80 %
+        QVERIFY(!menu->isVisible());
+
+        const QWidget* bar = r.addressBar();
+        const int middle = bar->y() + bar->height() / 2;
+        window->WBOne()->setFocus(); // the bar answers only while it has no focus
+        QTRY_VERIFY(!r.one().AddressBarHasFocus);
+        QTest::mouseMove(screen, QPoint(width * 3 / 10, middle)); // the bar's left half
+        QVERIFY(!menu->isVisible());
+        QTest::mouseMove(screen, QPoint(width * 6 / 10, middle));
+        QTRY_VERIFY(menu->isVisible());
+        menu->hide();
     }
 };
 
