@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineView>
+#include <algorithm>
 
 WebBrowserControl::WebBrowserControl(QWebEngineView* view, QWebEngineProfile* profile)
     : BrowserControl(view), m_view(view), m_page(new WebPage(profile, view))
@@ -21,9 +22,11 @@ WebBrowserControl::WebBrowserControl(QWebEngineView* view, QWebEngineProfile* pr
         m_finished = false;
         emit ProgressChange(0, 100);
     });
+    // The engine reaches 100 once the document is in, while its pictures may
+    // still be on their way: only the end of the load completes the page.
     connect(m_page, &QWebEnginePage::loadProgress, this, [this](int p) {
         if (!m_finished)
-            emit ProgressChange(p, 100);
+            emit ProgressChange(std::min(p, 99), 100);
     });
     connect(m_page, &QWebEnginePage::loadFinished, this, [this](bool) {
         m_finished = true;

@@ -8,7 +8,8 @@ class QWebEngineView;
 class WebPage;
 
 // The browser control on the web engine. Load progress p gives
-// ProgressChange(p, 100); the end of a load gives NavigateComplete2, one
+// ProgressChange(p, 100), at most 99 until the load has ended, pictures and
+// all; the end of a load gives NavigateComplete2, one
 // ProgressChange with both equal, then ProgressChange(0, 0); a title that
 // arrives after the end gives one more ProgressChange(0, 0). A page's wish
 // for a new window is NewWindow2; refused, the page gets no window.

@@ -197,6 +197,45 @@ private slots:
         QCOMPARE(r.one().mnuAutoNav.isChecked(), false);
     }
 
+    // The engine reports 100 % once the document is in, while a picture is
+    // still on its way; only the end of the load completes the page.
+    void aPageWaitingForAPictureHoldsTheWalk()
+    {
+        EngineRig r;
+        r.t.state.gblnFullPages = true;
+        r.t.state.glngAutoLimit = 60000;
+        r.nav->wander().setInterval(100);
+        stalledPictureHouses << "1001";
+        r.windows.ShowBrowserOne();
+        frmWBOne* window = r.windows.browserOne();
+        QList<QPoint> events;
+        QObject::connect(&window->control(), &BrowserControl::ProgressChange,
+                         [&](int p, int max) { events << QPoint(p, max); });
+        int engineProgress = 0;
+        QObject::connect(window->WBOne()->page(), &QWebEnginePage::loadProgress,
+                         [&](int p) { engineProgress = std::max(engineProgress, p); });
+        r.nav->controls().mnuAutoNav.click();
+        QTRY_VERIFY_WITH_TIMEOUT(
+            engineProgress == 100 && r.one().form.text().startsWith("     House 1001 "), 20000);
+        QVERIFY(server.requested.contains("http://www.geocities.com/never.gif"));
+        QTest::qWait(800); // eight periods of the walk's timer
+        QCOMPARE(houses(), QStringList{"1001"});
+        QVERIFY(!r.nav->wander().tmrAN.isActive());
+        QVERIFY(r.one().tmrLimit.isActive());
+        for (const QPoint& e : events)
+            QVERIFY2(e.x() != e.y(), qPrintable(QString("(%1, %2)").arg(e.x()).arg(e.y())));
+        QCOMPARE(events.last(), QPoint(99, 100));
+        QCOMPARE(r.one().form.text(), QString("     House 1001          [99%]"));
+
+        // The picture fails at last: the load ends with its two end events,
+        // and the walk goes on.
+        server.releaseStalled();
+        QTRY_VERIFY_WITH_TIMEOUT(houses().contains("1002"), 20000);
+        const int end = events.indexOf(QPoint(100, 100));
+        QVERIFY(end > 0);
+        QCOMPARE(events.value(end + 1), QPoint(0, 0));
+    }
+
     // The menu opens over the window's own strip around the address bar,
     // never over the page, where a click meant for a link would land on it.
     void theHoverMenuAnswersTheWindowNotThePage()
