@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QWebEngineDownloadRequest>
+#include <QWebEngineHistory>
 #include <QWebEngineView>
 #include <algorithm>
 
@@ -25,19 +26,38 @@ WebBrowserControl::WebBrowserControl(QWebEngineView* view, QWebEngineProfile* pr
     // The engine reaches 100 once the document is in, while its pictures may
     // still be on their way: only the end of the load completes the page.
     connect(m_page, &QWebEnginePage::loadProgress, this, [this](int p) {
+        noteArrival();
         if (!m_finished)
             emit ProgressChange(std::min(p, 99), 100);
     });
     connect(m_page, &QWebEnginePage::loadFinished, this, [this](bool) {
+        noteArrival();
         m_finished = true;
-        emit NavigateComplete2(LocationURL());
         emit ProgressChange(100, 100);
         emit ProgressChange(0, 0);
     });
+    connect(m_page, &QWebEnginePage::urlChanged, this, &WebBrowserControl::noteArrival);
     connect(m_page, &QWebEnginePage::titleChanged, this, [this] {
+        noteArrival();
         if (m_finished)
             emit ProgressChange(0, 0);
     });
+}
+
+// The engine stamps a history entry with the time whenever a navigation
+// reaches it, a return to an earlier entry or a reload included, so a
+// stamp newer than the last one sent is a new arrival.
+void WebBrowserControl::noteArrival()
+{
+    const QList<QWebEngineHistoryItem> entries = m_page->history()->items();
+    const auto newest =
+        std::max_element(entries.cbegin(), entries.cend(), [](const auto& a, const auto& b) {
+            return a.lastVisited().toMSecsSinceEpoch() < b.lastVisited().toMSecsSinceEpoch();
+        });
+    if (newest == entries.cend() || newest->lastVisited().toMSecsSinceEpoch() <= m_arrivedAt)
+        return;
+    m_arrivedAt = newest->lastVisited().toMSecsSinceEpoch();
+    emit NavigateComplete2(newest->url().toString());
 }
 
 QUrl WebBrowserControl::UrlOf(const QString& text)

@@ -236,6 +236,35 @@ private slots:
         QCOMPARE(events.value(end + 1), QPoint(0, 0));
     }
 
+    void aPageThatShowsButNeverFinishesIsReached_data()
+    {
+        QTest::addColumn<bool>("inDocument");
+        QTest::newRow("stalled document") << true;
+        QTest::newRow("stalled picture") << false;
+    }
+    void aPageThatShowsButNeverFinishesIsReached()
+    {
+        QFETCH(bool, inDocument);
+        EngineRig r;
+        (inDocument ? stalledHouses : stalledPictureHouses) << "1000";
+        r.windows.ShowBrowserOne();
+        QStringList arrivals;
+        QObject::connect(&r.windows.browserOne()->control(), &BrowserControl::NavigateComplete2,
+                         [&](const QString& url) { arrivals << url; });
+        QVERIFY(!r.nav->controls().cmdGoBack.isEnabled());
+        QLineEdit* bar = r.addressBar();
+        QTest::keyClicks(bar, "my own");
+        QVERIFY(r.one().AddressBarEdited);
+        r.nav->controls().cmdOpenSite.click();
+        QTRY_VERIFY_WITH_TIMEOUT(r.one().form.text().startsWith("     House 1000 "), 20000);
+        QVERIFY(r.nav->controls().cmdGoBack.isEnabled());
+        QVERIFY(!r.one().AddressBarEdited);
+        QTRY_COMPARE(bar->text(), QString("http://www.geocities.com/Area51/1000/"));
+        QVERIFY(!r.one().form.text().endsWith("[Done]"));
+        QTest::qWait(300);
+        QCOMPARE(arrivals, QStringList{"http://www.geocities.com/Area51/1000/"}); // once
+    }
+
     // The menu opens over the window's own strip around the address bar,
     // never over the page, where a click meant for a link would land on it.
     void theHoverMenuAnswersTheWindowNotThePage()
