@@ -44,20 +44,25 @@ WebBrowserControl::WebBrowserControl(QWebEngineView* view, QWebEngineProfile* pr
     });
 }
 
-// The engine stamps a history entry with the time whenever a navigation
-// reaches it, a return to an earlier entry or a reload included, so a
-// stamp newer than the last one sent is a new arrival.
-void WebBrowserControl::noteArrival()
+std::optional<QWebEngineHistoryItem> WebBrowserControl::lastArrival() const
 {
     const QList<QWebEngineHistoryItem> entries = m_page->history()->items();
     const auto newest =
         std::max_element(entries.cbegin(), entries.cend(), [](const auto& a, const auto& b) {
             return a.lastVisited().toMSecsSinceEpoch() < b.lastVisited().toMSecsSinceEpoch();
         });
-    if (newest == entries.cend() || newest->lastVisited().toMSecsSinceEpoch() <= m_arrivedAt)
+    if (newest == entries.cend())
+        return std::nullopt;
+    return *newest;
+}
+
+void WebBrowserControl::noteArrival()
+{
+    const auto arrival = lastArrival();
+    if (!arrival || arrival->lastVisited().toMSecsSinceEpoch() <= m_arrivedAt)
         return;
-    m_arrivedAt = newest->lastVisited().toMSecsSinceEpoch();
-    emit NavigateComplete2(newest->url().toString());
+    m_arrivedAt = arrival->lastVisited().toMSecsSinceEpoch();
+    emit NavigateComplete2(arrival->url().toString());
 }
 
 QUrl WebBrowserControl::UrlOf(const QString& text)
@@ -90,10 +95,10 @@ QString WebBrowserControl::LocationURL() const
 
 QString WebBrowserControl::LocationName() const
 {
-    // The engine names an untitled page by its address; the control does not.
-    const QString title = m_page->title();
-    return title == m_page->url().toString() || title == m_page->url().toDisplayString() ? QString()
-                                                                                         : title;
+    // The engine shows an untitled page's address, without its scheme, in
+    // place of a title; the page's history entry keeps its own title, empty.
+    const auto arrival = lastArrival();
+    return arrival ? arrival->title() : QString();
 }
 
 void WebBrowserControl::SaveAs(const QString& path)

@@ -265,6 +265,28 @@ private slots:
         QCOMPARE(arrivals, QStringList{"http://www.geocities.com/Area51/1000/"}); // once
     }
 
+    void anUntitledPageShowsTheHint()
+    {
+        EngineRig r;
+        const QString file = r.t.folders.root() + "/untitled.htm";
+        QFile out(file);
+        QVERIFY(out.open(QIODevice::WriteOnly) && out.write(Untitled) > 0);
+        out.close();
+        const QStringList addresses = {"geocities.com/untitled/", "geocities.com/", file};
+        const QStringList urls = {"http://www.geocities.com/untitled/", "http://www.geocities.com/",
+                                  QUrl::fromLocalFile(file).toString()};
+        for (int i = 0; i < addresses.size(); ++i) {
+            r.nav->NavigateSomeWhereElse(addresses[i]);
+            QTRY_VERIFY_WITH_TIMEOUT(r.done() && r.one().CurrentUrl == urls[i], 20000);
+            QCOMPARE(r.windows.browserOne()->control().LocationName(), QString());
+            QCOMPARE(r.one().form.text(),
+                     QString("     Right Click Page For IE Menu!          [Done]"));
+        }
+        // A page with a title keeps it.
+        r.nav->NavigateSomeWhereElse("geocities.com/Area51/1234/");
+        QTRY_VERIFY_WITH_TIMEOUT(r.one().form.text() == "     House 1234          [Done]", 20000);
+    }
+
     // The menu opens over the window's own strip around the address bar,
     // never over the page, where a click meant for a link would land on it.
     void theHoverMenuAnswersTheWindowNotThePage()
