@@ -34,6 +34,18 @@ QRect availableScreen()
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
 }
+
+// Whether a key types a character, by the rule of Qt's own text boxes:
+// arrows, Shift, function keys and Ctrl's shortcuts do not.
+bool typesCharacter(const QKeyEvent& key)
+{
+    const Qt::KeyboardModifiers mods = key.modifiers() & ~Qt::KeypadModifier;
+    if (key.text().isEmpty() || mods == Qt::ControlModifier ||
+        mods == (Qt::ControlModifier | Qt::ShiftModifier))
+        return false;
+    const QChar first = key.text().at(0);
+    return first.isPrint() || first.isSurrogate();
+}
 } // namespace
 
 frmWBOne::frmWBOne(AppContext& ctx, Navigator& navigator, WindowRegistry& windows)
@@ -146,7 +158,10 @@ bool frmWBOne::eventFilter(QObject* watched, QEvent* event)
         case QEvent::KeyPress: {
             const auto* key = static_cast<QKeyEvent*>(event);
             const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-            m_rules->AddressBarKey(enter ? 13 : key->key());
+            if (enter)
+                m_rules->AddressBarKey(13);
+            else if (typesCharacter(*key))
+                m_rules->AddressBarKey(key->text().at(0).unicode());
             return enter;
         }
         case QEvent::MouseButtonPress:

@@ -321,6 +321,23 @@ private slots:
         QTRY_VERIFY(menu->isVisible());
         menu->hide();
     }
+
+    void onlyTypedCharactersEditTheAddressBar()
+    {
+        EngineRig r;
+        r.windows.ShowBrowserOne();
+        QLineEdit* bar = r.addressBar();
+        r.one().txtAddressBar.setText("http://www.geocities.com/Area51/1000/");
+        for (Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End, Qt::Key_Shift,
+                            Qt::Key_Control, Qt::Key_F5, Qt::Key_Escape})
+            QTest::keyClick(bar, key);
+        QTest::keyClick(bar, Qt::Key_C, Qt::ControlModifier);
+        QTest::keyClick(bar, Qt::Key_Left, Qt::ShiftModifier);
+        QVERIFY(!r.one().AddressBarEdited);
+        QCOMPARE(bar->text(), QString("http://www.geocities.com/Area51/1000/"));
+        QTest::keyClick(bar, Qt::Key_X, Qt::ShiftModifier);
+        QVERIFY(r.one().AddressBarEdited);
+    }
 };
 
 int main(int argc, char* argv[])
