@@ -245,6 +245,8 @@ void frmWBOne::showWalkColours(Wander::Mode mode)
         window.setColor(QPalette::Window, QColor(0, 0, 255));
         break;
     case Wander::Mode::Off:
+        bar.setColor(QPalette::Text, Qt::black);
+        window.setColor(QPalette::Window, window.color(QPalette::Button));
         break;
     }
     m_addressBar->setPalette(bar);

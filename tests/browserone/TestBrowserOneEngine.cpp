@@ -73,6 +73,25 @@ struct EngineRig
     QLineEdit* addressBar() { return windows.browserOne()->findChild<QLineEdit*>("txtAddressBar"); }
 };
 
+// The colour that fills most of an image: a widget's background.
+QColor commonest(const QImage& image)
+{
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            ++counts[image.pixel(x, y)];
+    }
+    QRgb top = 0;
+    int most = 0;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        if (it.value() > most) {
+            most = it.value();
+            top = it.key();
+        }
+    }
+    return QColor::fromRgb(top);
+}
+
 } // namespace
 
 class TestBrowserOneEngine : public QObject
@@ -337,6 +356,44 @@ private slots:
         QCOMPARE(bar->text(), QString("http://www.geocities.com/Area51/1000/"));
         QTest::keyClick(bar, Qt::Key_X, Qt::ShiftModifier);
         QVERIFY(r.one().AddressBarEdited);
+    }
+
+    void theWalksShowTheirColours_data()
+    {
+        QTest::addColumn<QStringList>("clicks");
+        QTest::addColumn<QColor>("bar");
+        QTest::addColumn<QColor>("text");
+        QTest::addColumn<QColor>("window");
+        QTest::addColumn<bool>("locked");
+        const QPalette system = QGuiApplication::palette();
+        QTest::newRow("AutoNav") << QStringList{"mnuAutoNav"} << QColor(180, 0, 0)
+                                 << QColor(Qt::white) << QColor(255, 0, 0) << true;
+        QTest::newRow("RandNav") << QStringList{"mnuRandNav"} << QColor(0, 0, 180)
+                                 << QColor(Qt::white) << QColor(0, 0, 255) << true;
+        QTest::newRow("off") << QStringList{"mnuAutoNav", "mnuRandNav", "mnuRandNav"}
+                             << system.color(QPalette::Base) << QColor(Qt::black)
+                             << system.color(QPalette::Button) << false;
+    }
+    void theWalksShowTheirColours()
+    {
+        QFETCH(QStringList, clicks);
+        QFETCH(QColor, bar);
+        QFETCH(QColor, text);
+        QFETCH(QColor, window);
+        QFETCH(bool, locked);
+        EngineRig r;
+        r.windows.ShowBrowserOne();
+        for (const QString& menu : clicks)
+            (menu == "mnuAutoNav" ? r.nav->controls().mnuAutoNav : r.nav->controls().mnuRandNav)
+                .click();
+        QLineEdit* addressBar = r.addressBar();
+        frmWBOne* form = r.windows.browserOne();
+        QCOMPARE(addressBar->palette().color(QPalette::Base), bar);
+        QCOMPARE(addressBar->palette().color(QPalette::Text), text);
+        QCOMPARE(addressBar->isReadOnly(), locked);
+        QCOMPARE(form->palette().color(QPalette::Window), window);
+        QCOMPARE(commonest(addressBar->grab().toImage()), bar);
+        QCOMPARE(form->grab().toImage().pixelColor(1, 1), window);
     }
 };
 
