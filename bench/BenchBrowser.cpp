@@ -1,5 +1,6 @@
 // Browser One against pages served on 127.0.0.1: the time from Open to the
 // page's completion (the first page starts the engine, later ones reuse it),
+// beside a bare QWebEngineView loading the same pages from the same server,
 // the memory with Browser One open, and an AutoNav walk of a thousand pages
 // with a short wait, showing whether memory grows past its first pages' level.
 #include "EngineEnvironment.h"
@@ -12,10 +13,13 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
+#include <QWebEngineView>
 #include <algorithm>
 #include <cstdio>
+#include <optional>
 
 namespace {
 
@@ -56,6 +60,80 @@ template <typename Predicate> bool waitFor(Predicate done, int timeoutMs)
     return true;
 }
 
+constexpr int LaterPages = 9;
+// Set in the bare view's process: the server's proxy address, the view's width and height.
+const char* const BareViewVariable = "VORLAN_BENCH_BARE_VIEW";
+
+QString houseUrl(int house)
+{
+    return QStringLiteral("http://www.geocities.com/Area51/%1/").arg(house);
+}
+
+double median(QVector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+struct PageTimes
+{
+    double first = 0;
+    double later = 0; // median
+};
+
+// The bare view, run in a process of its own so that its first page, too,
+// starts the engine: the same pages, timed from load to loadFinished.
+int runBareView(const QStringList& setting)
+{
+    if (setting.size() != 3)
+        return 1;
+    EngineEnvironment::prepare(setting[0]);
+    QElapsedTimer clock;
+    clock.start();
+    QWebEngineView view;
+    view.resize(setting[1].toInt(), setting[2].toInt());
+    view.show();
+    bool finished = false;
+    QObject::connect(view.page(), &QWebEnginePage::loadFinished, [&](bool) { finished = true; });
+    QVector<double> times;
+    for (int i = 0; i <= LaterPages; ++i) {
+        if (i > 0)
+            clock.restart();
+        finished = false;
+        view.load(QUrl(houseUrl(1000 + i)));
+        if (!waitFor([&] { return finished; }, 60000))
+            return 2;
+        times << clock.nsecsElapsed() / 1e6;
+    }
+    // QString::number, not printf: the parent reads the figures in the C locale.
+    std::printf("%s %s\n", qPrintable(QString::number(times[0], 'f', 3)),
+                qPrintable(QString::number(median(times.mid(1)), 'f', 3)));
+    return 0;
+}
+
+// Starts the bare view's process and serves its pages meanwhile.
+std::optional<PageTimes> timeBareView(const QString& proxy, const QSize& size)
+{
+    QProcess child;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(BareViewVariable,
+               QStringLiteral("%1;%2;%3").arg(proxy).arg(size.width()).arg(size.height()));
+    child.setProcessEnvironment(env);
+    child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    child.start(QCoreApplication::applicationFilePath(), {});
+    if (!waitFor([&] { return child.state() == QProcess::NotRunning; }, 300000)) {
+        child.kill();
+        child.waitForFinished();
+        return std::nullopt;
+    }
+    const QStringList lines =
+        QString::fromLatin1(child.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+    const QStringList fields = lines.value(lines.size() - 1).split(' ');
+    if (child.exitStatus() != QProcess::NormalExit || child.exitCode() != 0 || fields.size() != 2)
+        return std::nullopt;
+    return PageTimes{fields[0].toDouble(), fields[1].toDouble()};
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -63,6 +141,8 @@ int main(int argc, char* argv[])
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
+    if (qEnvironmentVariableIsSet(BareViewVariable))
+        return runBareView(qEnvironmentVariable(BareViewVariable).split(';'));
     LocalWebServer server(page);
     if (!server.start())
         return 1;
@@ -91,25 +171,37 @@ int main(int argc, char* argv[])
                                           : "no window");
         return 2;
     }
-    const double firstMs = clock.nsecsElapsed() / 1e6;
+    PageTimes one;
+    one.first = clock.nsecsElapsed() / 1e6;
     QVector<double> later;
-    for (int i = 1; i <= 9; ++i) {
+    for (int i = 1; i <= LaterPages; ++i) {
         clock.restart();
         nav.controls().cmdNext.click();
         if (!waitFor([&] { return completed(QString::number(1000 + i)); }, 30000))
             return 3;
         later << clock.nsecsElapsed() / 1e6;
     }
-    std::sort(later.begin(), later.end());
+    one.later = median(later);
     QTest::qWait(500);
     const qint64 selfOpen = ProcessMemory::selfKb();
     const qint64 allOpen = ProcessMemory::withChildrenKb();
+    const auto bare = timeBareView(server.proxyAddress(), windows.browserOne()->WBOne()->size());
+    if (!bare) {
+        std::fprintf(stderr, "the bare view did not load its pages\n");
+        return 5;
+    }
 
     std::printf("browser one (pages from 127.0.0.1, platform %s)\n",
                 qPrintable(qEnvironmentVariable("QT_QPA_PLATFORM", "default")));
-    std::printf("  Open to completion, first page (engine start)  %8.1f ms\n", firstMs);
-    std::printf("  Open to completion, later pages (median of 9)  %8.1f ms\n",
-                later[later.size() / 2]);
+    const auto line = [](const char* label, double ms) {
+        std::printf("  %-50s %8.1f ms\n", label, ms);
+    };
+    line("Open to completion, first page (engine start)", one.first);
+    line("Open to completion, later pages (median of 9)", one.later);
+    line("bare QWebEngineView in its own process, first page", bare->first);
+    line("bare QWebEngineView, later pages (median of 9)", bare->later);
+    std::printf("  Browser One / bare view: first page %.2f, later pages %.2f\n",
+                one.first / bare->first, one.later / bare->later);
     std::printf("  memory before Browser One: %.1f MB; with it open: %.1f MB"
                 " (this process %.1f MB, engine helpers %.1f MB)\n",
                 mb(before), mb(allOpen), mb(selfOpen), mb(allOpen - selfOpen));

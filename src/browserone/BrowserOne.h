@@ -85,8 +85,10 @@ public:
     void RandNavClick();
     void ExitClick();
 
-    // Where the hover menu opens: over the top quarter of the page, between
-    // 10 % and 80 % of its width (50 % over the address bar).
+    // Whether a move at (x, y) of the window, over its own area or over the
+    // address bar, opens the hover menu: measured against the page's size,
+    // within its top quarter and between 10 % and 80 % of its width (50 %
+    // over the address bar). Moves over the page itself never do.
     static bool HoverMenuAt(int x, int y, int pageWidth, int pageHeight, bool overAddressBar);
     // The search services of the Search menu, without scheme and "www.".
     static QString SearchHost(int index, bool japan);

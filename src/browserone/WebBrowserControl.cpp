@@ -4,7 +4,9 @@
 
 #include <QFileInfo>
 #include <QWebEngineDownloadRequest>
+#include <QWebEngineHistory>
 #include <QWebEngineView>
+#include <algorithm>
 
 WebBrowserControl::WebBrowserControl(QWebEngineView* view, QWebEngineProfile* profile)
     : BrowserControl(view), m_view(view), m_page(new WebPage(profile, view))
@@ -21,20 +23,46 @@ WebBrowserControl::WebBrowserControl(QWebEngineView* view, QWebEngineProfile* pr
         m_finished = false;
         emit ProgressChange(0, 100);
     });
+    // The engine reaches 100 once the document is in, while its pictures may
+    // still be on their way: only the end of the load completes the page.
     connect(m_page, &QWebEnginePage::loadProgress, this, [this](int p) {
+        noteArrival();
         if (!m_finished)
-            emit ProgressChange(p, 100);
+            emit ProgressChange(std::min(p, 99), 100);
     });
     connect(m_page, &QWebEnginePage::loadFinished, this, [this](bool) {
+        noteArrival();
         m_finished = true;
-        emit NavigateComplete2(LocationURL());
         emit ProgressChange(100, 100);
         emit ProgressChange(0, 0);
     });
+    connect(m_page, &QWebEnginePage::urlChanged, this, &WebBrowserControl::noteArrival);
     connect(m_page, &QWebEnginePage::titleChanged, this, [this] {
+        noteArrival();
         if (m_finished)
             emit ProgressChange(0, 0);
     });
+}
+
+std::optional<QWebEngineHistoryItem> WebBrowserControl::lastArrival() const
+{
+    const QList<QWebEngineHistoryItem> entries = m_page->history()->items();
+    const auto newest =
+        std::max_element(entries.cbegin(), entries.cend(), [](const auto& a, const auto& b) {
+            return a.lastVisited().toMSecsSinceEpoch() < b.lastVisited().toMSecsSinceEpoch();
+        });
+    if (newest == entries.cend())
+        return std::nullopt;
+    return *newest;
+}
+
+void WebBrowserControl::noteArrival()
+{
+    const auto arrival = lastArrival();
+    if (!arrival || arrival->lastVisited().toMSecsSinceEpoch() <= m_arrivedAt)
+        return;
+    m_arrivedAt = arrival->lastVisited().toMSecsSinceEpoch();
+    emit NavigateComplete2(arrival->url().toString());
 }
 
 QUrl WebBrowserControl::UrlOf(const QString& text)
@@ -67,10 +95,10 @@ QString WebBrowserControl::LocationURL() const
 
 QString WebBrowserControl::LocationName() const
 {
-    // The engine names an untitled page by its address; the control does not.
-    const QString title = m_page->title();
-    return title == m_page->url().toString() || title == m_page->url().toDisplayString() ? QString()
-                                                                                         : title;
+    // The engine shows an untitled page's address, without its scheme, in
+    // place of a title; the page's history entry keeps its own title, empty.
+    const auto arrival = lastArrival();
+    return arrival ? arrival->title() : QString();
 }
 
 void WebBrowserControl::SaveAs(const QString& path)

@@ -2,13 +2,18 @@
 
 #include "BrowserControl.h"
 
+#include <QWebEngineHistoryItem>
+#include <optional>
+
 class QWebEnginePage;
 class QWebEngineProfile;
 class QWebEngineView;
 class WebPage;
 
-// The browser control on the web engine. Load progress p gives
-// ProgressChange(p, 100); the end of a load gives NavigateComplete2, one
+// The browser control on the web engine. A navigation that reaches its
+// target gives NavigateComplete2 at once, whether or not its page ever
+// finishes. Load progress p gives ProgressChange(p, 100), at most 99 until
+// the load has ended, pictures and all; the end of a load gives one
 // ProgressChange with both equal, then ProgressChange(0, 0); a title that
 // arrives after the end gives one more ProgressChange(0, 0). A page's wish
 // for a new window is NewWindow2; refused, the page gets no window.
@@ -37,7 +42,17 @@ public:
     static QUrl UrlOf(const QString& text);
 
 private:
+    // The history entry that the last navigation reached: the one with the
+    // newest stamp, since the engine stamps an entry with the time whenever
+    // a navigation reaches it, a return to an earlier entry or a reload
+    // included. None before the first arrival.
+    std::optional<QWebEngineHistoryItem> lastArrival() const;
+    // Sends NavigateComplete2 for a navigation that has reached its target
+    // since the last one sent.
+    void noteArrival();
+
     QWebEngineView* m_view;
     WebPage* m_page;
     bool m_finished = false;
+    qint64 m_arrivedAt = -1; // the stamp of the last arrival sent
 };

@@ -14,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -30,6 +31,18 @@ QRect availableScreen()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+}
+
+// Whether a key types a character, by the rule of Qt's own text boxes:
+// arrows, Shift, function keys and Ctrl's shortcuts do not.
+bool typesCharacter(const QKeyEvent& key)
+{
+    const Qt::KeyboardModifiers mods = key.modifiers() & ~Qt::KeypadModifier;
+    if (key.text().isEmpty() || mods == Qt::ControlModifier ||
+        mods == (Qt::ControlModifier | Qt::ShiftModifier))
+        return false;
+    const QChar first = key.text().at(0);
+    return first.isPrint() || first.isSurrogate();
 }
 } // namespace
 
@@ -79,15 +92,9 @@ void frmWBOne::buildControls()
     m_control = new WebBrowserControl(m_view, m_windows.profile());
     m_control->openWindow = [this] { return m_windows.openPopUp(); };
     m_windows.browsers().addOwn(this, [this] { close(); });
-    // The page's widget appears once the engine has made it; it is what
-    // receives the pointer's moves.
-    m_view->installEventFilter(this);
-    connect(m_view->page(), &QWebEnginePage::loadStarted, this, [this] {
-        if (QWidget* proxy = m_view->focusProxy()) {
-            proxy->setMouseTracking(true);
-            proxy->installEventFilter(this);
-        }
-    });
+    // The hover menu answers the window's own strip around the address bar,
+    // never the page: there it would cover the links a user clicks.
+    setMouseTracking(true);
 }
 
 void frmWBOne::buildMenu()
@@ -134,8 +141,7 @@ void frmWBOne::hover(const QPoint& pos, bool overAddressBar)
         return;
     if (overAddressBar && m_rules->AddressBarHasFocus)
         return;
-    const QPoint inWindow =
-        overAddressBar ? m_addressBar->mapTo(this, pos) : m_view->mapTo(this, pos);
+    const QPoint inWindow = overAddressBar ? m_addressBar->mapTo(this, pos) : pos;
     if (!BrowserOne::HoverMenuAt(inWindow.x(), inWindow.y(), m_view->width(), m_view->height(),
                                  overAddressBar))
         return;
@@ -151,7 +157,10 @@ bool frmWBOne::eventFilter(QObject* watched, QEvent* event)
         case QEvent::KeyPress: {
             const auto* key = static_cast<QKeyEvent*>(event);
             const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-            m_rules->AddressBarKey(enter ? 13 : key->key());
+            if (enter)
+                m_rules->AddressBarKey(13);
+            else if (typesCharacter(*key))
+                m_rules->AddressBarKey(key->text().at(0).unicode());
             return enter;
         }
         case QEvent::MouseButtonPress:
@@ -169,10 +178,14 @@ bool frmWBOne::eventFilter(QObject* watched, QEvent* event)
         default:
             break;
         }
-    } else if (event->type() == QEvent::MouseMove && watched != this) {
-        hover(static_cast<QMouseEvent*>(event)->position().toPoint(), false);
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void frmWBOne::mouseMoveEvent(QMouseEvent* event)
+{
+    hover(event->position().toPoint(), false);
+    QWidget::mouseMoveEvent(event);
 }
 
 void frmWBOne::keyPressEvent(QKeyEvent* event)
@@ -231,6 +244,8 @@ void frmWBOne::showWalkColours(Wander::Mode mode)
         window.setColor(QPalette::Window, QColor(0, 0, 255));
         break;
     case Wander::Mode::Off:
+        bar.setColor(QPalette::Text, Qt::black);
+        window.setColor(QPalette::Window, window.color(QPalette::Button));
         break;
     }
     m_addressBar->setPalette(bar);

@@ -17,7 +17,8 @@ class MainWindowCalls;
 
 // Browser One: a window around one browser control, with an address bar
 // and a Next button on top and a menu that pops up when the pointer hovers
-// over the top of the page. Its rules live in BrowserOne.
+// over the window's strip around them or over the address bar. Its rules
+// live in BrowserOne.
 class frmWBOne : public QWidget, public BrowserOneHost
 {
     Q_OBJECT
@@ -51,6 +52,7 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -10,16 +10,22 @@
 #include "navigator/frmGeoCities.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMenu>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QWindow>
+#include <QWebEngineView>
 #include <QtTest>
 
 namespace {
 
-// House numbers that stall instead of completing, shared with the server.
+// House numbers that stall instead of completing, shared with the server:
+// in the document itself, or in a picture whose answer never arrives.
 QSet<QString> stalledHouses;
+QSet<QString> stalledPictureHouses;
+
+const QByteArray Untitled = "<html><body>A page without a title</body></html>";
 
 LocalWebServer::Reply answer(const QString& url)
 {
@@ -31,9 +37,19 @@ LocalWebServer::Reply answer(const QString& url)
                               "<img src='http://www.geocities.com/slow.gif'>")};
     if (url.endsWith(QLatin1String("/slow.gif")))
         return {QByteArray(), 404, false, 400};
+    if (url.endsWith(QLatin1String("/never.gif")))
+        return {QByteArray(), 200, true};
+    if (url.endsWith(QLatin1String("/untitled/")) ||
+        url == QLatin1String("http://www.geocities.com/"))
+        return {Untitled};
     if (m.hasMatch()) {
         const QString number = m.captured(1);
-        return {LocalWebServer::page("House " + number), 200, stalledHouses.contains(number)};
+        const QString picture =
+            stalledPictureHouses.contains(number)
+                ? QStringLiteral("<img src='http://www.geocities.com/never.gif'>")
+                : QString();
+        return {LocalWebServer::page("House " + number, "House " + number + picture), 200,
+                stalledHouses.contains(number)};
     }
     return {LocalWebServer::page("Elsewhere")};
 }
@@ -59,7 +75,27 @@ struct EngineRig
     }
     BrowserOne& one() { return windows.browserOne()->rules(); }
     bool done() { return windows.browserOne() && one().form.text().endsWith("[Done]"); }
+    QLineEdit* addressBar() { return windows.browserOne()->findChild<QLineEdit*>("txtAddressBar"); }
 };
+
+// The colour that fills most of an image: a widget's background.
+QColor commonest(const QImage& image)
+{
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            ++counts[image.pixel(x, y)];
+    }
+    QRgb top = 0;
+    int most = 0;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        if (it.value() > most) {
+            most = it.value();
+            top = it.key();
+        }
+    }
+    return QColor::fromRgb(top);
+}
 
 } // namespace
 
@@ -87,8 +123,10 @@ private slots:
 
     void init()
     {
+        server.releaseStalled();
         server.requested.clear();
         stalledHouses.clear();
+        stalledPictureHouses.clear();
     }
 
     void openShowsThePageWithItsProgressInTheCaption()
@@ -228,6 +266,186 @@ private slots:
         const QStringList walked = houses();
         QCOMPARE(walked.mid(0, 5), (QStringList{"1001", "1002", "1003", "1004", "1005"}));
         QCOMPARE(r.one().mnuAutoNav.isChecked(), false);
+    }
+
+    // The engine reports 100 % once the document is in, while a picture is
+    // still on its way; only the end of the load completes the page.
+    void aPageWaitingForAPictureHoldsTheWalk()
+    {
+        EngineRig r;
+        r.t.state.gblnFullPages = true;
+        r.t.state.glngAutoLimit = 60000;
+        r.nav->wander().setInterval(100);
+        stalledPictureHouses << "1001";
+        r.windows.ShowBrowserOne();
+        frmWBOne* window = r.windows.browserOne();
+        QList<QPoint> events;
+        QObject::connect(&window->control(), &BrowserControl::ProgressChange,
+                         [&](int p, int max) { events << QPoint(p, max); });
+        int engineProgress = 0;
+        QObject::connect(window->WBOne()->page(), &QWebEnginePage::loadProgress,
+                         [&](int p) { engineProgress = std::max(engineProgress, p); });
+        r.nav->controls().mnuAutoNav.click();
+        QTRY_VERIFY_WITH_TIMEOUT(
+            engineProgress == 100 && r.one().form.text().startsWith("     House 1001 "), 20000);
+        QVERIFY(server.requested.contains("http://www.geocities.com/never.gif"));
+        QTest::qWait(800); // eight periods of the walk's timer
+        QCOMPARE(houses(), QStringList{"1001"});
+        QVERIFY(!r.nav->wander().tmrAN.isActive());
+        QVERIFY(r.one().tmrLimit.isActive());
+        for (const QPoint& e : events)
+            QVERIFY2(e.x() != e.y(), qPrintable(QString("(%1, %2)").arg(e.x()).arg(e.y())));
+        QCOMPARE(events.last(), QPoint(99, 100));
+        QCOMPARE(r.one().form.text(), QString("     House 1001          [99%]"));
+
+        // The picture fails at last: the load ends with its two end events,
+        // and the walk goes on.
+        server.releaseStalled();
+        QTRY_VERIFY_WITH_TIMEOUT(houses().contains("1002"), 20000);
+        const int end = events.indexOf(QPoint(100, 100));
+        QVERIFY(end > 0);
+        QCOMPARE(events.value(end + 1), QPoint(0, 0));
+    }
+
+    void aPageThatShowsButNeverFinishesIsReached_data()
+    {
+        QTest::addColumn<bool>("inDocument");
+        QTest::newRow("stalled document") << true;
+        QTest::newRow("stalled picture") << false;
+    }
+    void aPageThatShowsButNeverFinishesIsReached()
+    {
+        QFETCH(bool, inDocument);
+        EngineRig r;
+        (inDocument ? stalledHouses : stalledPictureHouses) << "1000";
+        r.windows.ShowBrowserOne();
+        QStringList arrivals;
+        QObject::connect(&r.windows.browserOne()->control(), &BrowserControl::NavigateComplete2,
+                         [&](const QString& url) { arrivals << url; });
+        QVERIFY(!r.nav->controls().cmdGoBack.isEnabled());
+        QLineEdit* bar = r.addressBar();
+        QTest::keyClicks(bar, "my own");
+        QVERIFY(r.one().AddressBarEdited);
+        r.nav->controls().cmdOpenSite.click();
+        QTRY_VERIFY_WITH_TIMEOUT(r.one().form.text().startsWith("     House 1000 "), 20000);
+        QVERIFY(r.nav->controls().cmdGoBack.isEnabled());
+        QVERIFY(!r.one().AddressBarEdited);
+        QTRY_COMPARE(bar->text(), QString("http://www.geocities.com/Area51/1000/"));
+        QVERIFY(!r.one().form.text().endsWith("[Done]"));
+        QTest::qWait(300);
+        QCOMPARE(arrivals, QStringList{"http://www.geocities.com/Area51/1000/"}); // once
+    }
+
+    void anUntitledPageShowsTheHint()
+    {
+        EngineRig r;
+        const QString file = r.t.folders.root() + "/untitled.htm";
+        QFile out(file);
+        QVERIFY(out.open(QIODevice::WriteOnly) && out.write(Untitled) > 0);
+        out.close();
+        const QStringList addresses = {"geocities.com/untitled/", "geocities.com/", file};
+        const QStringList urls = {"http://www.geocities.com/untitled/", "http://www.geocities.com/",
+                                  QUrl::fromLocalFile(file).toString()};
+        for (int i = 0; i < addresses.size(); ++i) {
+            r.nav->NavigateSomeWhereElse(addresses[i]);
+            QTRY_VERIFY_WITH_TIMEOUT(r.done() && r.one().CurrentUrl == urls[i], 20000);
+            QCOMPARE(r.windows.browserOne()->control().LocationName(), QString());
+            QCOMPARE(r.one().form.text(),
+                     QString("     Right Click Page For IE Menu!          [Done]"));
+        }
+        // A page with a title keeps it.
+        r.nav->NavigateSomeWhereElse("geocities.com/Area51/1234/");
+        QTRY_VERIFY_WITH_TIMEOUT(r.one().form.text() == "     House 1234          [Done]", 20000);
+    }
+
+    // The menu opens over the window's own strip around the address bar,
+    // never over the page, where a click meant for a link would land on it.
+    void theHoverMenuAnswersTheWindowNotThePage()
+    {
+        EngineRig r;
+        r.nav->controls().cmdOpenSite.click();
+        QTRY_VERIFY_WITH_TIMEOUT(r.done(), 20000);
+        frmWBOne* window = r.windows.browserOne();
+        QMenu* menu = window->mnuCopy();
+        QWindow* screen = window->windowHandle();
+        const QWidget* page = window->WBOne();
+        const int width = page->width();
+        for (const QPoint& at :
+             {QPoint(width / 2, 10), QPoint(width / 2, 40), QPoint(width / 3, 5)})
+            QTest::mouseMove(screen, page->mapTo(window, at));
+        QTest::qWait(100);
+        QVERIFY(!menu->isVisible());
+
+        QTest::mouseMove(screen, QPoint(width / 2, 1));
+        QTRY_VERIFY(menu->isVisible());
+        menu->hide();
+        QTest::mouseMove(screen, QPoint(width * 9 / 10, 1)); // right of 80 %
+        QVERIFY(!menu->isVisible());
+
+        const QWidget* bar = r.addressBar();
+        const int middle = bar->y() + bar->height() / 2;
+        window->WBOne()->setFocus(); // the bar answers only while it has no focus
+        QTRY_VERIFY(!r.one().AddressBarHasFocus);
+        QTest::mouseMove(screen, QPoint(width * 3 / 10, middle)); // the bar's left half
+        QVERIFY(!menu->isVisible());
+        QTest::mouseMove(screen, QPoint(width * 6 / 10, middle));
+        QTRY_VERIFY(menu->isVisible());
+        menu->hide();
+    }
+
+    void onlyTypedCharactersEditTheAddressBar()
+    {
+        EngineRig r;
+        r.windows.ShowBrowserOne();
+        QLineEdit* bar = r.addressBar();
+        r.one().txtAddressBar.setText("http://www.geocities.com/Area51/1000/");
+        for (Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End, Qt::Key_Shift,
+                            Qt::Key_Control, Qt::Key_F5, Qt::Key_Escape})
+            QTest::keyClick(bar, key);
+        QTest::keyClick(bar, Qt::Key_C, Qt::ControlModifier);
+        QTest::keyClick(bar, Qt::Key_Left, Qt::ShiftModifier);
+        QVERIFY(!r.one().AddressBarEdited);
+        QCOMPARE(bar->text(), QString("http://www.geocities.com/Area51/1000/"));
+        QTest::keyClick(bar, Qt::Key_X, Qt::ShiftModifier);
+        QVERIFY(r.one().AddressBarEdited);
+    }
+
+    void theWalksShowTheirColours_data()
+    {
+        QTest::addColumn<QStringList>("clicks");
+        QTest::addColumn<QColor>("bar");
+        QTest::addColumn<QColor>("text");
+        QTest::addColumn<QColor>("window");
+        QTest::addColumn<bool>("locked");
+        const QPalette system = QGuiApplication::palette();
+        QTest::newRow("AutoNav") << QStringList{"mnuAutoNav"} << QColor(180, 0, 0)
+                                 << QColor(Qt::white) << QColor(255, 0, 0) << true;
+        QTest::newRow("RandNav") << QStringList{"mnuRandNav"} << QColor(0, 0, 180)
+                                 << QColor(Qt::white) << QColor(0, 0, 255) << true;
+        QTest::newRow("off") << QStringList{"mnuAutoNav", "mnuRandNav", "mnuRandNav"}
+                             << system.color(QPalette::Base) << QColor(Qt::black)
+                             << system.color(QPalette::Button) << false;
+    }
+    void theWalksShowTheirColours()
+    {
+        QFETCH(QStringList, clicks);
+        QFETCH(QColor, bar);
+        QFETCH(QColor, text);
+        QFETCH(QColor, window);
+        QFETCH(bool, locked);
+        EngineRig r;
+        r.windows.ShowBrowserOne();
+        for (const QString& menu : clicks)
+            (menu == "mnuAutoNav" ? r.nav->controls().mnuAutoNav : r.nav->controls().mnuRandNav)
+                .click();
+        QLineEdit* addressBar = r.addressBar();
+        frmWBOne* form = r.windows.browserOne();
+        QCOMPARE(addressBar->palette().color(QPalette::Base), bar);
+        QCOMPARE(addressBar->palette().color(QPalette::Text), text);
+        QCOMPARE(addressBar->isReadOnly(), locked);
+        QCOMPARE(form->palette().color(QPalette::Window), window);
+        QCOMPARE(commonest(addressBar->grab().toImage()), bar);
+        QCOMPARE(form->grab().toImage().pixelColor(1, 1), window);
     }
 };
 

@@ -2,6 +2,7 @@
 
 #include <QTcpSocket>
 #include <QTimer>
+#include <utility>
 
 LocalWebServer::LocalWebServer(Handler handler, QObject* parent)
     : QTcpServer(parent), m_handler(std::move(handler))
@@ -10,8 +11,10 @@ LocalWebServer::LocalWebServer(Handler handler, QObject* parent)
         while (QTcpSocket* socket = nextPendingConnection()) {
             connect(socket, &QTcpSocket::readyRead, this, [this, socket] { serve(socket); });
             connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-            connect(socket, &QObject::destroyed, this,
-                    [this, socket] { m_pending.remove(socket); });
+            connect(socket, &QObject::destroyed, this, [this, socket] {
+                m_pending.remove(socket);
+                m_stalled.removeAll(socket);
+            });
         }
     });
 }
@@ -31,6 +34,13 @@ QByteArray LocalWebServer::page(const QString& title, const QString& body)
     return QStringLiteral("<html><head><title>%1</title></head><body>%2</body></html>")
         .arg(title, body.isEmpty() ? title : body)
         .toUtf8();
+}
+
+void LocalWebServer::releaseStalled()
+{
+    const QList<QTcpSocket*> held = std::exchange(m_stalled, {});
+    for (QTcpSocket* socket : held)
+        socket->disconnectFromHost();
 }
 
 void LocalWebServer::serve(QTcpSocket* socket)
@@ -64,6 +74,7 @@ void LocalWebServer::answer(QTcpSocket* socket, const Reply& reply)
                       "\r\nContent-Type: text/html; charset=utf-8\r\nCache-Control: no-store\r\n";
     if (reply.stall) {
         socket->write(head + "Content-Length: 100000\r\n\r\n" + reply.body.left(200));
+        m_stalled << socket;
         return; // held open: the page never completes
     }
     socket->write(head + "Content-Length: " + QByteArray::number(reply.body.size()) +

@@ -35,6 +35,8 @@ public:
 
     // A page with a title and a body.
     static QByteArray page(const QString& title, const QString& body = QString());
+    // Closes every held-open answer short of its length, so that it fails.
+    void releaseStalled();
 
 private:
     void serve(QTcpSocket* socket);
@@ -42,4 +44,5 @@ private:
 
     Handler m_handler;
     QHash<QTcpSocket*, QByteArray> m_pending;
+    QList<QTcpSocket*> m_stalled;
 };
