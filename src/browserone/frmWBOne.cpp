@@ -33,10 +33,14 @@ QRect availableScreen()
     return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
 }
 
-// Whether a key types a character, by the rule of Qt's own text boxes:
-// arrows, Shift, function keys and Ctrl's shortcuts do not.
-bool typesCharacter(const QKeyEvent& key)
+// Whether a key edits the text: one that types a character, by the rule of
+// Qt's own text boxes, Backspace and Delete, and the shortcuts that cut or
+// paste. Arrows, Shift, function keys and Ctrl's other shortcuts do not.
+bool editsText(const QKeyEvent& key)
 {
+    if (key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Delete ||
+        key.matches(QKeySequence::Paste) || key.matches(QKeySequence::Cut))
+        return true;
     const Qt::KeyboardModifiers mods = key.modifiers() & ~Qt::KeypadModifier;
     if (key.text().isEmpty() || mods == Qt::ControlModifier ||
         mods == (Qt::ControlModifier | Qt::ShiftModifier))
@@ -159,8 +163,8 @@ bool frmWBOne::eventFilter(QObject* watched, QEvent* event)
             const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
             if (enter)
                 m_rules->AddressBarKey(13);
-            else if (typesCharacter(*key))
-                m_rules->AddressBarKey(key->text().at(0).unicode());
+            else if (editsText(*key))
+                m_rules->AddressBarKey(key->text().isEmpty() ? 8 : key->text().at(0).unicode());
             return enter;
         }
         case QEvent::MouseButtonPress:

@@ -393,7 +393,7 @@ private slots:
         menu->hide();
     }
 
-    void onlyTypedCharactersEditTheAddressBar()
+    void onlyKeysThatChangeTheTextEditTheAddressBar()
     {
         EngineRig r;
         r.windows.ShowBrowserOne();
@@ -406,8 +406,18 @@ private slots:
         QTest::keyClick(bar, Qt::Key_Left, Qt::ShiftModifier);
         QVERIFY(!r.one().AddressBarEdited);
         QCOMPARE(bar->text(), QString("http://www.geocities.com/Area51/1000/"));
-        QTest::keyClick(bar, Qt::Key_X, Qt::ShiftModifier);
-        QVERIFY(r.one().AddressBarEdited);
+        // Typing, erasing, cutting and pasting each count.
+        const QList<QPair<Qt::Key, Qt::KeyboardModifiers>> edits = {
+            {Qt::Key_X, Qt::ShiftModifier},
+            {Qt::Key_Backspace, Qt::NoModifier},
+            {Qt::Key_Delete, Qt::NoModifier},
+            {Qt::Key_V, Qt::ControlModifier},
+            {Qt::Key_X, Qt::ControlModifier}};
+        for (const auto& [key, modifiers] : edits) {
+            r.one().AddressBarEdited = false;
+            QTest::keyClick(bar, key, modifiers);
+            QVERIFY2(r.one().AddressBarEdited, qPrintable(QKeySequence(key | modifiers).toString()));
+        }
     }
 
     void theWalksShowTheirColours_data()
