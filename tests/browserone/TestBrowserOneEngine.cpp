@@ -234,8 +234,10 @@ private slots:
         r.t.state.gblnEliminatePopUps = false;
         r.t.state.gblnClosePopUps = true;
         r.nav->NavigateSomeWhereElse("geocities.com/popup/");
-        QTRY_VERIFY_WITH_TIMEOUT(server.requested.contains("http://www.geocities.com/popped/"),
-                                 20000);
+        // The pop-up may be closed before its page asks for anything: what
+        // counts is that its window was made and is gone again.
+        QSignalSpy asked(&r.windows.browserOne()->control(), &BrowserControl::NewWindow2);
+        QTRY_VERIFY_WITH_TIMEOUT(asked.count() >= 1, 20000);
         QTRY_VERIFY_WITH_TIMEOUT(r.done(), 20000);
         QTRY_COMPARE(r.windows.browsers().count(), 1);
         QCOMPARE(r.windows.browsers().at(0), r.windows.browserOne());
