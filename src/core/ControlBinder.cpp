@@ -37,8 +37,10 @@ bool isFocusKey(const QKeyEvent* key)
 
 // The lists take no typing: neither a key nor the wheel chooses an entry of
 // the closed box (Qt's arrow keys, keyboard search and wheel all do, and
-// fire activated), nor a key in its open list. What passes are the keys
-// that move the focus or only open and close the list.
+// fire activated), and no character searches the open list. What passes
+// are the keys that move the focus, open and close the list, and, in the
+// open list, move its highlight and choose the highlighted entry with
+// Return: a deliberate choice, as a click is.
 class NoTyping : public QObject
 {
 public:
@@ -79,24 +81,22 @@ private:
         return !passes;
     }
 
-    // Return, Enter, F4 and Alt+Down would choose the entry under the
-    // pointer: they close the list and choose nothing. Escape closes it as
-    // Qt does; every other key is dropped.
+    static bool movesHighlight(const QKeyEvent* key)
+    {
+        static const QList<int> keys = {Qt::Key_Up,       Qt::Key_Down, Qt::Key_PageUp,
+                                        Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
+        return keys.contains(key->key()) && !(key->modifiers() & Qt::AltModifier);
+    }
+
+    // Escape, F4 and Alt+Down close the list as Qt does, choosing nothing;
+    // Return and Enter choose the highlighted entry. Every other key,
+    // keyboard search included, is dropped.
     bool openList(QKeyEvent* key) const
     {
-        if (key->key() == Qt::Key_Escape)
-            return false;
-        const bool closes =
-            opensOrCloses(key) || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-        if (key->type() == QEvent::ShortcutOverride) {
-            // Keep the key for the list, where the press closes it.
-            if (closes)
-                key->accept();
-            return true;
-        }
-        if (closes)
-            m_combo->hidePopup();
-        return true;
+        const bool passes = key->key() == Qt::Key_Escape || opensOrCloses(key) ||
+                            key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter ||
+                            movesHighlight(key);
+        return !passes;
     }
 
     QComboBox* m_combo;

@@ -182,9 +182,9 @@ private slots:
             QTest::keyClick(box, Qt::Key_Up, Qt::AltModifier);
             WidgetChecks::wheel(box, -1);
             WidgetChecks::wheel(box, 2);
-            // The open list: keys move nothing, and Return and F4 close it
-            // without choosing the entry they would have chosen.
-            for (Qt::Key closer : {Qt::Key_Return, Qt::Key_F4}) {
+            // The open list: no keyboard search, and the highlight moved by
+            // the arrows is not chosen when the list closes without Return.
+            for (Qt::Key closer : {Qt::Key_Escape, Qt::Key_F4}) {
                 box->showPopup();
                 QAbstractItemView* list = box->view();
                 QTRY_VERIFY(list->isVisible());
@@ -211,6 +211,17 @@ private slots:
         QTRY_VERIFY(!list->isVisible());
         QCOMPARE(r.address(), QString("geocities.com/Paris/1000/"));
         QCOMPARE(c.cmdSavedLinks0.text(), QString("Save"));
+        // So does Return on the entry highlighted with the arrows.
+        QComboBox* prefix = r.find<QComboBox>("cmbHouseNumberPrefix");
+        QSignalSpy chosen(&c.cmbHouseNumberPrefix, &Control::clicked);
+        prefix->showPopup();
+        QTRY_VERIFY(prefix->view()->isVisible());
+        QTest::keyClick(prefix->view(), Qt::Key_Down);
+        QTest::keyClick(prefix->view(), Qt::Key_Down);
+        QTest::keyClick(prefix->view(), Qt::Key_Return);
+        QTRY_VERIFY(!prefix->view()->isVisible());
+        QCOMPARE(chosen.count(), 1);
+        QCOMPARE(r.address(), QString("geocities.com/Paris/1200/"));
         r.w->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(r.w));
         hood->setFocus();
