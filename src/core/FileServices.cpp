@@ -5,10 +5,7 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryFile>
-#include <cerrno>
-#include <cstdio>
-#include <unistd.h>
+#include <QSaveFile>
 
 QString UniqueFileName(const QString& path)
 {
@@ -72,11 +69,12 @@ QString ReplaceByCopy(const QString& from, const QString& to)
     QFile source(from);
     if (!source.open(QIODevice::ReadOnly))
         return source.errorString();
-    const QFileInfo target(to);
-    QTemporaryFile copy(target.absolutePath() + QLatin1Char('/') + target.fileName() +
-                        QStringLiteral(".XXXXXX"));
-    if (!copy.open())
+    // QSaveFile writes to a new name beside the target, puts it on the disk
+    // and renames it over the target at commit; a failed one is removed.
+    QSaveFile copy(to);
+    if (!copy.open(QIODevice::WriteOnly))
         return copy.errorString();
+    copy.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     constexpr qint64 Chunk = 1 << 20;
     for (;;) {
         const QByteArray bytes = source.read(Chunk);
@@ -87,13 +85,7 @@ QString ReplaceByCopy(const QString& from, const QString& to)
         if (copy.write(bytes) != bytes.size())
             return copy.errorString();
     }
-    // The data must be on the disk before the name points to it.
-    if (!copy.flush())
+    if (!copy.commit())
         return copy.errorString();
-    if (::fsync(copy.handle()) != 0 ||
-        std::rename(QFile::encodeName(copy.fileName()).constData(),
-                    QFile::encodeName(target.absoluteFilePath()).constData()) != 0)
-        return qt_error_string(errno);
-    copy.setAutoRemove(false);
     return QString();
 }
