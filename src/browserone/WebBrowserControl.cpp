@@ -46,14 +46,10 @@ WebBrowserControl::WebBrowserControl(QWebEngineView* view, QWebEngineProfile* pr
 
 std::optional<QWebEngineHistoryItem> WebBrowserControl::lastArrival() const
 {
-    const QList<QWebEngineHistoryItem> entries = m_page->history()->items();
-    const auto newest =
-        std::max_element(entries.cbegin(), entries.cend(), [](const auto& a, const auto& b) {
-            return a.lastVisited().toMSecsSinceEpoch() < b.lastVisited().toMSecsSinceEpoch();
-        });
-    if (newest == entries.cend())
+    const QWebEngineHistoryItem current = m_page->history()->currentItem();
+    if (!current.isValid())
         return std::nullopt;
-    return *newest;
+    return current;
 }
 
 void WebBrowserControl::noteArrival()

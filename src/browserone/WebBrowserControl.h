@@ -42,10 +42,10 @@ public:
     static QUrl UrlOf(const QString& text);
 
 private:
-    // The history entry that the last navigation reached: the one with the
-    // newest stamp, since the engine stamps an entry with the time whenever
-    // a navigation reaches it, a return to an earlier entry or a reload
-    // included. None before the first arrival.
+    // The history entry that the last navigation reached: the current one,
+    // which the engine stamps with the time whenever a navigation reaches
+    // it, a return to an earlier entry or a reload included. None before
+    // the first arrival.
     std::optional<QWebEngineHistoryItem> lastArrival() const;
     // Sends NavigateComplete2 for a navigation that has reached its target
     // since the last one sent.

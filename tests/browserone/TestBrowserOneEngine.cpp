@@ -14,8 +14,8 @@
 #include <QMenu>
 #include <QRegularExpression>
 #include <QScreen>
-#include <QWindow>
 #include <QWebEngineView>
+#include <QWindow>
 #include <QtTest>
 
 namespace {
@@ -309,6 +309,29 @@ private slots:
         QCOMPARE(events.value(end + 1), QPoint(0, 0));
     }
 
+    // Going back reaches a page as much as going forward does: one arrival
+    // each, and the title of the page arrived at.
+    void everyArrivalIsReportedOnceBackwardsToo()
+    {
+        EngineRig r;
+        r.windows.ShowBrowserOne();
+        QStringList arrivals;
+        QObject::connect(&r.windows.browserOne()->control(), &BrowserControl::NavigateComplete2,
+                         [&](const QString& url) { arrivals << url; });
+        r.nav->controls().cmdOpenSite.click();
+        QTRY_VERIFY_WITH_TIMEOUT(r.done(), 20000);
+        r.nav->controls().cmdNext.click();
+        QTRY_VERIFY_WITH_TIMEOUT(r.done() && arrivals.size() == 2, 20000);
+        QCOMPARE(r.windows.browserOne()->control().LocationName(), QString("House 1001"));
+        r.nav->controls().cmdGoBack.click();
+        QTRY_COMPARE_WITH_TIMEOUT(arrivals.size(), 3, 20000);
+        QTRY_VERIFY(r.done());
+        QCOMPARE(arrivals, (QStringList{"http://www.geocities.com/Area51/1000/",
+                                        "http://www.geocities.com/Area51/1001/",
+                                        "http://www.geocities.com/Area51/1000/"}));
+        QCOMPARE(r.windows.browserOne()->control().LocationName(), QString("House 1000"));
+    }
+
     void aPageThatShowsButNeverFinishesIsReached_data()
     {
         QTest::addColumn<bool>("inDocument");
@@ -418,7 +441,8 @@ private slots:
         for (const auto& [key, modifiers] : edits) {
             r.one().AddressBarEdited = false;
             QTest::keyClick(bar, key, modifiers);
-            QVERIFY2(r.one().AddressBarEdited, qPrintable(QKeySequence(key | modifiers).toString()));
+            QVERIFY2(r.one().AddressBarEdited,
+                     qPrintable(QKeySequence(key | modifiers).toString()));
         }
     }
 
