@@ -3,7 +3,7 @@
 # Sourced by scripts/run, scripts/test and scripts/bench.
 VORLAN_PACKAGES=(
     cmake g++ make pkg-config
-    qt6-base-dev qt6-webengine-dev libqt6sql6-sqlite
+    qt6-base-dev qt6-webengine-dev qt6-svg-dev libqt6sql6-sqlite
     libcurl4-openssl-dev mdbtools-dev
     python3-pyftpdlib
     xvfb xauth fonts-dejavu-core fonts-liberation

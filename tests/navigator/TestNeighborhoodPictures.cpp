@@ -55,6 +55,17 @@ private slots:
                     for (int x = 0; x < image.width(); x += 2)
                         colours.insert(image.pixel(x, y));
                 QVERIFY2(colours.size() > 40, qPrintable(which));
+                // The background alone is the same along a row: the drawing
+                // makes some row of the middle vary.
+                bool drawn = false;
+                const int from = image.width() / 8, to = image.width() - from;
+                for (int y = from; y < to && !drawn; ++y) {
+                    QSet<QRgb> row;
+                    for (int x = from; x < to; ++x)
+                        row.insert(image.pixel(x, y));
+                    drawn = row.size() > 3;
+                }
+                QVERIFY2(drawn, qPrintable(which));
             }
         }
     }
