@@ -1,9 +1,8 @@
 // The import of old saved links: the file loop with its messages, the text
 // files of early versions and their reading, the repeat rules, and the
 // import of this program's own database files.
-#include "TestContext.h"
+#include "ImportRig.h"
 #include "addressdata/LinkImport.h"
-#include "addressdata/LinkImportHost.h"
 #include "addressdata/LinksTextFile.h"
 #include "addressdata/MainDatabase.h"
 #include "addressdata/SequentialInput.h"
@@ -14,62 +13,6 @@
 #include <QtTest>
 
 namespace {
-
-// Records what the import asks of the screen.
-class RecordingImportHost : public LinkImportHost
-{
-public:
-    void showWait(const QString& text) override { calls << "wait " + text; }
-    void unloadWait() override { calls << "unload"; }
-    void refreshSavedLinks() override { calls << "refresh"; }
-    QStringList calls;
-};
-
-struct ImportRig
-{
-    TestContext t;
-    RecordingImportHost host;
-    QString files;
-
-    ImportRig()
-    {
-        t.createAndOpenDatabase();
-        files = t.folders.root() + "/old";
-        QDir().mkpath(files);
-    }
-    QString write(const QString& name, const QByteArray& bytes)
-    {
-        const QString path = files + "/" + name;
-        QFile f(path);
-        f.open(QIODevice::WriteOnly);
-        f.write(bytes);
-        return path;
-    }
-    // Runs the import with the paths as the dialog's answers, then Cancel.
-    LinkImport::Counts run(const QStringList& paths)
-    {
-        for (const QString& p : paths)
-            t.prompts.answerPath(p);
-        LinkImport import(t.ctx, host);
-        import.run();
-        return import.counts();
-    }
-    QVector<QStringList> rows(int table)
-    {
-        return FieldTexts(t.db.readAll(t.state.gastrTables[table][0]));
-    }
-    void addSaved(int table, const QStringList& row)
-    {
-        t.db.append(t.state.gastrTables[table][0], FieldNames(t.state.gastrTables, table), {row});
-    }
-    int fileDialogs() const
-    {
-        int n = 0;
-        for (const auto& s : t.prompts.shown)
-            n += s.kind == "openFile";
-        return n;
-    }
-};
 
 const QByteArray TwoNewLinks =
     "\"SoHo\",\"Lofts\",\"10\",\"01\",\"Art, and more\",\"Saved on: A\"\r\n"
