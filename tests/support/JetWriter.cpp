@@ -49,7 +49,7 @@ void maskHeader(QByteArray& page)
     }
 }
 
-QByteArray headerPage()
+QByteArray headerPage(quint32 pageKey)
 {
     QByteArray page(PageSize, '\0');
     page[1] = 0x01;
@@ -57,6 +57,7 @@ QByteArray headerPage()
     page[0x14] = 0x01; // Jet 4
     put16(page, 0x3c, 1252);
     put16(page, 0x6e, 0x409);
+    put32(page, 0x3e, pageKey);
     maskHeader(page);
     return page;
 }
@@ -211,7 +212,7 @@ QByteArray JetWriter::build() const
         const quint32 mapRow = (1u << 8) | quint32(t);
         definitions.append(definitionPage(all[t].fields, all[t].rows.size(), mapRow, t == 0));
     }
-    QByteArray file = headerPage() + dataPages(0, maps).value(0, emptyDataPage(0));
+    QByteArray file = headerPage(pageKey) + dataPages(0, maps).value(0, emptyDataPage(0));
     for (const QByteArray& page : definitions + data)
         file += page;
     return file;

@@ -31,6 +31,10 @@ public:
 
     static constexpr int PageSize = 4096;
 
+    // The key of the header that says the pages are encoded; the pages are
+    // written plain all the same, as a reader without the right key sees them.
+    quint32 pageKey = 0;
+
 private:
     QVector<Table> m_tables;
 };
