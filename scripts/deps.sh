@@ -4,7 +4,7 @@
 VORLAN_PACKAGES=(
     cmake g++ make pkg-config
     qt6-base-dev qt6-webengine-dev qt6-svg-dev libqt6sql6-sqlite
-    libcurl4-openssl-dev mdbtools-dev
+    libcurl4-openssl-dev mdbtools-dev mdbtools
     python3-pyftpdlib
     xvfb xauth fonts-dejavu-core fonts-liberation
 )

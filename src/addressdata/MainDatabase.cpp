@@ -1,5 +1,7 @@
 #include "MainDatabase.h"
 #include "addressdata/BuiltInCatalogue.h"
+#include "addressdata/LinkImport.h"
+#include "addressdata/LinkImportHost.h"
 #include "addressdata/TextDatabase.h"
 #include "core/AppContext.h"
 
@@ -48,6 +50,25 @@ void createAndSeed(TextDatabase& db, SharedState& state)
     });
 }
 
+// An import with nothing on the screen besides its dialogs.
+class NoImportScreen : public LinkImportHost
+{
+public:
+    void showWait(const QString&) override {}
+    void unloadWait() override {}
+    void refreshSavedLinks() override {}
+};
+
+void importLinks(AppContext& ctx, LinkImportHost* host)
+{
+    NoImportScreen none;
+    try {
+        LinkImport(ctx, host ? *host : none).run();
+    } catch (const std::exception&) {
+        // A settings fault, say: the import ends, the program goes on.
+    }
+}
+
 } // namespace
 
 void CreateMainDatabase(SharedState& state)
@@ -64,15 +85,14 @@ void CreateMainDatabase(SharedState& state)
     SeedCatalogue(state);
 }
 
-void DatabaseAction(AppContext& ctx, int code)
+void DatabaseAction(AppContext& ctx, int code, LinkImportHost* host)
 {
     switch (code) {
     case CreateMain:
         CreateMainDatabase(ctx.state);
         break;
     case ImportLinks:
-        // The import of saved links from older installations comes with the
-        // import feature; until then the menu entry does nothing.
+        importLinks(ctx, host);
         break;
     default:
         break;

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class LinkImportHost;
 struct AppContext;
 struct SharedState;
 
@@ -17,8 +18,9 @@ void CreateMainDatabase(SharedState& state);
 // The main database's actions by code: 2 creates the file, 3 imports saved
 // links of older installations; other codes do nothing. A failure of the
 // creation is passed on, since its caller ends in the settings error route;
-// the failures of other actions stop here.
-void DatabaseAction(AppContext& ctx, int code);
+// the failures of other actions stop here. The import shows its wait notice
+// and refreshes the saved links through host; without one it shows neither.
+void DatabaseAction(AppContext& ctx, int code, LinkImportHost* host = nullptr);
 
 // Opens the file and reads each of tables 0 to 10 whole, by its field
 // names. Every table is tried even when one fails; false when the file

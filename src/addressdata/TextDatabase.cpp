@@ -68,6 +68,16 @@ QString TextDatabase::uniqueConnectionName(const QString& prefix)
 
 void TextDatabase::open(const QString& path, bool create)
 {
+    openFile(path, create, QString());
+}
+
+void TextDatabase::openReadOnly(const QString& path)
+{
+    openFile(path, false, QStringLiteral("QSQLITE_OPEN_READONLY"));
+}
+
+void TextDatabase::openFile(const QString& path, bool create, const QString& options)
+{
     close();
     const QFileInfo info(path);
     if (!create && !info.exists())
@@ -88,6 +98,7 @@ void TextDatabase::open(const QString& path, bool create)
         QSqlDatabase db = QSqlDatabase::addDatabase(Driver, m_connection);
         m_owner = true;
         db.setDatabaseName(path);
+        db.setConnectOptions(options);
         if (!db.isValid() || !db.open())
             error = db.lastError();
     }

@@ -45,6 +45,9 @@ public:
     // opened or is not a database, which includes an empty file and one with
     // damaged pages; texts over the length limit do not make it damaged.
     void open(const QString& path, bool create = false);
+    // Opens an existing file for reading only, as a source that must stay
+    // as it is; the same faults throw.
+    void openReadOnly(const QString& path);
     void close();
     bool isOpen() const;
     QString path() const { return m_path; }
@@ -72,6 +75,7 @@ public:
     QSqlDatabase handle() const;
 
 private:
+    void openFile(const QString& path, bool create, const QString& options);
     void checkReadable() const;
     void requireOpen() const;
     void execute(const QString& sql, const QVariantList& values = {}) const;
@@ -86,4 +90,18 @@ private:
 inline QString NullToEmpty(const QString& value)
 {
     return value.isNull() ? QString("") : value;
+}
+
+// The fields of the records alone, NULL read as the empty text.
+inline QVector<QStringList> FieldTexts(const QVector<TextRecord>& records)
+{
+    QVector<QStringList> rows;
+    rows.reserve(records.size());
+    for (const TextRecord& record : records) {
+        QStringList row;
+        for (const QString& value : record.fields)
+            row.append(NullToEmpty(value));
+        rows.append(row);
+    }
+    return rows;
 }

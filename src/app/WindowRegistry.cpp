@@ -1,5 +1,8 @@
 #include "WindowRegistry.h"
 
+#include "LinkImportUi.h"
+#include "addressdata/MainDatabase.h"
+
 #include "browserone/BrowserOneWindows.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/frmWBOne.h"
@@ -16,6 +19,10 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
     add(ProgramWindow::About, [this] {
         frmAbout about(m_ctx.prompts, NeighborhoodPictures::picture(false, 1), m_main.get());
         about.exec();
+    });
+    add(ProgramWindow::LinkImport, [this] {
+        LinkImportUi screen(m_ctx, *this);
+        DatabaseAction(m_ctx, 3, &screen);
     });
 }
 

@@ -14,5 +14,6 @@ enum class ProgramWindow
     NetPics,    // frmNetPics
     Inetget,    // frmInetget
     About,      // frmAbout
-    GeoTree     // frmTreeView
+    GeoTree,    // frmTreeView
+    LinkImport  // the import of old links: its file dialog and frmWait
 };

@@ -172,7 +172,9 @@ void frmGeoCities::buildMenus()
     bound(m_fileMenu, c.mnuGeoTree);
     bound(m_fileMenu, c.mnuJapan);
     m_fileMenu->addSeparator();
-    addEntry(m_fileMenu, "mnuImportLinks", tr("&Import Links"), nullptr)->setEnabled(false);
+    // DatabaseAction(3): no other window shows, so no on-top is released.
+    connect(addEntry(m_fileMenu, "mnuImportLinks", tr("&Import Links"), nullptr),
+            &QAction::triggered, this, [this] { m_windows.showWindow(ProgramWindow::LinkImport); });
     connect(addEntry(m_fileMenu, "mnuExport", tr("&Export Links"), nullptr), &QAction::triggered,
             this, show(ProgramWindow::Export));
     m_fileMenu->addSeparator();
@@ -214,9 +216,10 @@ void frmGeoCities::buildMenus()
 
     // Entries whose windows this build does not have stay visible but idle.
     const QList<QPair<const char*, ProgramWindow>> entries = {
-        {"mnuExport", ProgramWindow::Export},         {"mnuPublish", ProgramWindow::GeoFtp},
-        {"mnuBrowserTwo", ProgramWindow::BrowserTwo}, {"mnuScript", ProgramWindow::Script},
-        {"mnuNetPic", ProgramWindow::NetPics},        {"mnuInetGet", ProgramWindow::Inetget}};
+        {"mnuImportLinks", ProgramWindow::LinkImport}, {"mnuExport", ProgramWindow::Export},
+        {"mnuPublish", ProgramWindow::GeoFtp},         {"mnuBrowserTwo", ProgramWindow::BrowserTwo},
+        {"mnuScript", ProgramWindow::Script},          {"mnuNetPic", ProgramWindow::NetPics},
+        {"mnuInetGet", ProgramWindow::Inetget}};
     for (const auto& [name, window] : entries) {
         if (auto* action = menuBar()->findChild<QAction*>(QLatin1String(name)))
             action->setEnabled(m_windows.hasWindow(window));

@@ -82,6 +82,8 @@ QString RecordingHost::nameOf(ProgramWindow window)
         return "About";
     case ProgramWindow::GeoTree:
         return "GeoTree";
+    case ProgramWindow::LinkImport:
+        return "LinkImport";
     }
     return QString();
 }
