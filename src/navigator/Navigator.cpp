@@ -23,7 +23,8 @@ QString flagText(bool flag)
 
 Navigator::Navigator(AppContext& ctx, NavigatorHost& host, NavigatorWindows& windows)
     : m_ctx(ctx), m_host(host), m_windows(windows), m_composer(ctx.state, m_c, *this),
-      m_wander(ctx, *this), m_saved(ctx, m_c, m_composer, *this, host, windows)
+      m_wander(ctx, *this), m_saved(ctx, m_c, m_composer, *this, host, windows),
+      m_archiveMenu(ctx, m_sources)
 {
     connectEvents();
 }
@@ -109,6 +110,7 @@ void Navigator::LoadMainSettings()
     raise(st.gblnOSLOC, Sect::Startup, Key::OSLOC, "0");
     raise(st.gblnFullPages, Sect::Startup, Key::FullPages, "1");
     st.glngAutoLimit = Vb::CLng(m_ctx.GetSetting(Sect::Startup, Key::AutoLimit, "0"));
+    m_archiveMenu.load();
 
     const QString firstName = st.catalogue.gastrCatalogue[0][0];
     QString neighborhood, suburb, house;
@@ -186,6 +188,9 @@ void Navigator::NavigateSomeWhereElse(const QString& url)
     QString target = url;
     if (url.left(11).toLower() != QLatin1String("http://www.") && !localFile)
         target = QStringLiteral("http://www.") + url;
+    // The service is gone: its addresses open from the chosen archive or
+    // mirror, and every other address as it stands.
+    target = m_sources.rewrite(target).target;
     try {
         m_windows.ShowBrowserOne();
     } catch (const std::exception&) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AddressComposer.h"
+#include "ArchiveMenu.h"
 #include "ComposerHooks.h"
 #include "MainWindowCalls.h"
 #include "NavigatorControls.h"
@@ -34,6 +35,8 @@ public:
     AppContext& context() { return m_ctx; }
     Wander& wander() override { return m_wander; }
     SavedLinks& savedLinks() override { return m_saved; }
+    PageSources& pageSources() override { return m_sources; }
+    ArchiveMenu& archiveMenu() { return m_archiveMenu; }
     NavigatorHost& host() { return m_host; }
     NavigatorWindows& windows() { return m_windows; }
 
@@ -99,4 +102,6 @@ private:
     AddressComposer m_composer;
     Wander m_wander;
     SavedLinks m_saved;
+    PageSources m_sources;
+    ArchiveMenu m_archiveMenu;
 };

@@ -185,6 +185,15 @@ void frmGeoCities::buildMenus()
     connect(addEntry(tools, "mnuPublish", tr("Publish Files"), nullptr), &QAction::triggered, this,
             show(ProgramWindow::GeoFtp));
     bound(tools, c.mnuOptions);
+    QMenu* pages = tools->addMenu(tr("Open pages from"));
+    pages->setObjectName(QStringLiteral("mnuPagesFrom"));
+    ArchiveMenu& archive = m_nav.archiveMenu();
+    for (Control* entry :
+         {&archive.mnuPagesOriginal, &archive.mnuPagesArchive, &archive.mnuPagesGallery,
+          &archive.mnuPagesOoCities, &archive.mnuPagesMirror})
+        bound(pages, *entry);
+    pages->addSeparator();
+    bound(pages, archive.mnuArchiveYear)->setCheckable(false);
 
     QMenu* xtras = menuBar()->addMenu(tr("Xtras"));
     xtras->setObjectName(QStringLiteral("mnuXtras"));

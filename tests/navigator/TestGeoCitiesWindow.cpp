@@ -85,8 +85,12 @@ private slots:
                  (QStringList{"Sto&p>", "&GeoTree", "Go&Japan", "-", "&Import Links",
                               "&Export Links", "-", "E&xit"}));
         QCOMPARE(entries(r.menu("mnuStop")), (QStringList{"&AutoNav", "&RandNav"}));
-        QCOMPARE(entries(r.menu("mnuSettings")),
-                 (QStringList{"Keep OnTo&p", "Publish Files", "Vorlan &Options"}));
+        QCOMPARE(
+            entries(r.menu("mnuSettings")),
+            (QStringList{"Keep OnTo&p", "Publish Files", "Vorlan &Options", "Open pages from>"}));
+        QCOMPARE(entries(r.menu("mnuPagesFrom")),
+                 (QStringList{"Original addresses", "Internet Archive", "GeoCities gallery",
+                              "OoCities mirror", "Local mirror", "-", "Archive year..."}));
         QCOMPARE(entries(r.menu("mnuXtras")),
                  (QStringList{"&Web Browser Two", "IE&Cache Manager", "Create a web Page",
                               "Load Pictures from file list", "Download files from file list"}));
@@ -155,6 +159,21 @@ private slots:
         japan->trigger();
         QVERIFY(!japan->isChecked());
         QCOMPARE(r.w->windowTitle(), QString("Navigate GeoCities USA"));
+    }
+
+    void theSourceMenuKeepsOneEntryChecked()
+    {
+        WindowRig r;
+        auto action = [&r](const char* name) { return r.w->findChild<QAction*>(name); };
+        QVERIFY(action("mnuPagesOriginal")->isChecked());
+        action("mnuPagesOoCities")->trigger();
+        QVERIFY(action("mnuPagesOoCities")->isChecked());
+        QVERIFY(!action("mnuPagesOriginal")->isChecked());
+        // A second press of the checked entry keeps it checked.
+        action("mnuPagesOoCities")->trigger();
+        QVERIFY(action("mnuPagesOoCities")->isChecked());
+        QCOMPARE(r.t.ctx.GetSetting("AdvOpt", "PageSource"), QString("3"));
+        QVERIFY(!action("mnuArchiveYear")->isCheckable());
     }
 
     void theListsTakeNoTyping()
