@@ -298,7 +298,7 @@ void frmWBOne::CopyLinkClick()
 {
     QClipboard* clipboard = QGuiApplication::clipboard();
     clipboard->clear();
-    clipboard->setText(m_rules->CurrentUrl);
+    clipboard->setText(m_rules->CopyUrlText());
 }
 
 void frmWBOne::SaveAsClick()

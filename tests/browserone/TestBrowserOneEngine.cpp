@@ -10,12 +10,13 @@
 #include "navigator/frmGeoCities.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QMenu>
 #include <QRegularExpression>
 #include <QScreen>
-#include <QWindow>
 #include <QWebEngineView>
+#include <QWindow>
 #include <QtTest>
 
 namespace {
@@ -150,6 +151,29 @@ private slots:
         r.nav->controls().cmdNext.click();
         QTRY_VERIFY_WITH_TIMEOUT(r.one().form.text() == "     House 1001          [Done]", 10000);
         QCOMPARE(r.windows.browserOne(), window);
+    }
+
+    void anArchivedPageIsShownAndCopiedByItsOriginalAddress()
+    {
+        EngineRig r;
+        PageSources& sources = r.nav->pageSources();
+        sources.archiveBase = "http://web.archive.org"; // the test server has no TLS
+        r.nav->archiveMenu().mnuPagesArchive.click();
+        r.nav->controls().cmdOpenSite.click();
+        // The caption ends in the address shown, after the progress.
+        QTRY_VERIFY_WITH_TIMEOUT(r.windows.browserOne() && r.one().form.text().contains("[Done]"),
+                                 20000);
+        const QString archived =
+            "http://web.archive.org/web/2009if_/http://www.geocities.com/Area51/1000/";
+        QCOMPARE(server.requested.first(), archived);
+        QCOMPARE(r.one().txtAddressBar.text(),
+                 QString("http://www.geocities.com/Area51/1000/  [Archive 2009]"));
+        QVERIFY(r.one().form.text().endsWith("[Done]          http://www.geocities.com/Area51/"
+                                             "1000/  [Archive 2009]"));
+        r.windows.browserOne()->findChild<QAction*>("mnuCopyLink")->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->text(),
+                 "http://www.geocities.com/Area51/1000/\n" + archived);
+        r.nav->archiveMenu().mnuPagesOriginal.click();
     }
 
     void theHoverMenuHasEveryEntry()
@@ -418,7 +442,8 @@ private slots:
         for (const auto& [key, modifiers] : edits) {
             r.one().AddressBarEdited = false;
             QTest::keyClick(bar, key, modifiers);
-            QVERIFY2(r.one().AddressBarEdited, qPrintable(QKeySequence(key | modifiers).toString()));
+            QVERIFY2(r.one().AddressBarEdited,
+                     qPrintable(QKeySequence(key | modifiers).toString()));
         }
     }
 
