@@ -137,7 +137,10 @@ void Wander::RandNavStep()
     }
     const int s = drawSuburb(k);
     const QString suburb = s > 0 ? st.catalogue.suburb(k, s) : QString("");
-    const QString house = RandomDigits();
+    QString house = RandomDigits();
+    // Keeping to the archive's captures, the digits choose among them.
+    if (const int captured = m_nav.capturedWalk().draw(m_nav.blockOf(name, suburb), house))
+        house = QString::number(captured);
     if (st.gblnAssignRTC) {
         m_composer.HouseNumber = house;
         m_c.cmbNeighborhood.setText(name);
