@@ -228,7 +228,8 @@ private slots:
         QVERIFY(server.start());
         CapturedWalk& walk = r.nav.capturedWalk();
         walk.fetcher().cdxBase = server.proxyAddress();
-        walk.today = [] { return QDate(2026, 3, 1); };
+        QDate day(2026, 3, 1);
+        walk.today = [&day] { return day; };
         r.start();
         r.pickNeighborhood("SoHo");
         r.pickSuburb("Lofts");
@@ -252,6 +253,18 @@ private slots:
         r.c.cmdPrevious.click();
         QCOMPARE(r.composer.HouseNumber, QString("7000"));
         QVERIFY(r.host.navigated().last().endsWith("/SoHo/Lofts/7000/"));
+
+        // After 30 days the old index serves while it is asked for again;
+        // the menu entry asks at once.
+        day = day.addDays(30);
+        r.c.cmdNext.click();
+        QCOMPARE(r.composer.HouseNumber, QString("2000"));
+        QTRY_COMPARE(server.requested.size(), 2);
+        QTRY_VERIFY(!walk.fetcher().busy());
+        QVERIFY(!walk.index().isStale(r.nav.blockOf("SoHo", "Lofts"), day));
+        walk.mnuRefreshCaptures.click();
+        QTRY_COMPARE(server.requested.size(), 3);
+        QTRY_VERIFY(!walk.fetcher().busy());
         // The slider and the digit lists still reach every number.
         r.pickDigits("55", "55");
         QCOMPARE(r.composer.HouseNumber, QString("5555"));
@@ -260,10 +273,9 @@ private slots:
         r.t.state.gblnAssignRTC = false;
         const CatalogueData& cat = r.t.state.catalogue;
         const int soho = cat.find("SoHo");
-        walk.index().store(r.nav.blockOf("SoHo", ""), {3333}, QDate(2026, 3, 1));
+        walk.index().store(r.nav.blockOf("SoHo", ""), {3333}, day);
         for (int s = 1; s <= cat.gaintSuburbCount.value(soho); ++s)
-            walk.index().store(r.nav.blockOf("SoHo", cat.suburb(soho, s)), {3333, 4444},
-                               QDate(2026, 3, 1));
+            walk.index().store(r.nav.blockOf("SoHo", cat.suburb(soho, s)), {3333, 4444}, day);
         Wander& w = r.nav.wander();
         w.RandNavSelection = {static_cast<qint16>(soho)};
         r.host.calls.clear();
@@ -286,7 +298,7 @@ private slots:
         QVERIFY(!walk.mnuWalkCaptured.isEnabled());
         r.c.cmdNext.click();
         QCOMPARE(r.composer.HouseNumber, QString("5557"));
-        QCOMPARE(server.requested.size(), 1);
+        QCOMPARE(server.requested.size(), 3);
     }
 };
 
