@@ -103,6 +103,14 @@ int CapturedWalk::draw(const QString& block, const QString& digits)
     return found->houses.at(digits.toInt() % found->houses.size());
 }
 
+bool CapturedWalk::holdsNothing(const QString& block)
+{
+    if (!active())
+        return false;
+    const CaptureIndex::Block* found = indexed(block);
+    return found && found->houses.isEmpty();
+}
+
 void CapturedWalk::stored(const QString& block, const QVector<int>& houses)
 {
     try {

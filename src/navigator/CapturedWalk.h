@@ -45,6 +45,8 @@ public:
     int step(const QString& block, int house, int direction);
     // The captured number of the block that four drawn digits choose, or 0.
     int draw(const QString& block, const QString& digits);
+    // Whether the walk keeps to captures and the block's index holds none.
+    bool holdsNothing(const QString& block);
 
     void WalkCapturedClick();
     void RefreshClick();

@@ -273,7 +273,7 @@ private slots:
         r.t.state.gblnAssignRTC = false;
         const CatalogueData& cat = r.t.state.catalogue;
         const int soho = cat.find("SoHo");
-        walk.index().store(r.nav.blockOf("SoHo", ""), {3333}, day);
+        walk.index().store(r.nav.blockOf("SoHo", ""), {}, day); // drawn again
         for (int s = 1; s <= cat.gaintSuburbCount.value(soho); ++s)
             walk.index().store(r.nav.blockOf("SoHo", cat.suburb(soho, s)), {3333, 4444}, day);
         Wander& w = r.nav.wander();
@@ -284,7 +284,8 @@ private slots:
         const QStringList drawn = r.host.navigated();
         QCOMPARE(drawn.size(), 30);
         for (const QString& url : drawn)
-            QVERIFY2(url.endsWith("/3333/") || url.endsWith("/4444/"), qPrintable(url));
+            QVERIFY2(url.contains("/SoHo/") && (url.endsWith("/3333/") || url.endsWith("/4444/")),
+                     qPrintable(url));
         w.RandNavSelection.clear();
 
         // Off, or with the original addresses, every number is visited.
