@@ -207,15 +207,39 @@ bool TextDatabase::hasTable(const QString& table) const
 
 QVector<TextRecord> TextDatabase::readAll(const QString& table, const QStringList& fields) const
 {
+    return readRecords(table, fields, QString(), QString());
+}
+
+QVector<TextRecord> TextDatabase::readWhere(const QString& table, const QStringList& fields,
+                                            const QString& keyField, const QString& key) const
+{
+    return readRecords(table, fields, keyField, key);
+}
+
+void TextDatabase::removeWhere(const QString& table, const QString& keyField, const QString& key)
+{
+    execute(QStringLiteral("DELETE FROM %1 WHERE %2 = ?").arg(quoted(table), quoted(keyField)),
+            {key});
+}
+
+QVector<TextRecord> TextDatabase::readRecords(const QString& table, const QStringList& fields,
+                                              const QString& keyField, const QString& key) const
+{
     requireOpen();
     QStringList named;
     for (const QString& field : fields)
         named.append(quoted(field));
     const QString selected = named.isEmpty() ? QStringLiteral("*") : named.join(", ");
+    const QString where =
+        keyField.isEmpty() ? QString() : QStringLiteral(" WHERE %1 = ?").arg(quoted(keyField));
     QSqlQuery query(handle());
     query.setForwardOnly(true);
-    if (!query.exec(
-            QStringLiteral("SELECT rowid, %1 FROM %2 ORDER BY rowid").arg(selected, quoted(table))))
+    if (!query.prepare(QStringLiteral("SELECT rowid, %1 FROM %2%3 ORDER BY rowid")
+                           .arg(selected, quoted(table), where)))
+        fail(QStringLiteral("Cannot read ") + table, query.lastError());
+    if (!keyField.isEmpty())
+        query.bindValue(0, key);
+    if (!query.exec())
         fail(QStringLiteral("Cannot read ") + table, query.lastError());
     const int columns = query.record().count();
     QVector<TextRecord> records;

@@ -58,6 +58,9 @@ public:
     // With fields given, only those, by name and in that order; a table that
     // lacks one of them is a fault.
     QVector<TextRecord> readAll(const QString& table, const QStringList& fields = {}) const;
+    // The records whose keyField holds key, in insertion order.
+    QVector<TextRecord> readWhere(const QString& table, const QStringList& fields,
+                                  const QString& keyField, const QString& key) const;
     int recordCount(const QString& table) const;
     // Reads every record of the table inside the engine, the given fields
     // by name, without handing them out: the check of a table. Throws
@@ -71,12 +74,15 @@ public:
     void runInTransaction(const std::function<void()>& work);
     void remove(const QString& table, qint64 rowid);
     void removeAll(const QString& table);
+    void removeWhere(const QString& table, const QString& keyField, const QString& key);
 
     QSqlDatabase handle() const;
 
 private:
     void openFile(const QString& path, bool create, const QString& options);
     void checkReadable() const;
+    QVector<TextRecord> readRecords(const QString& table, const QStringList& fields,
+                                    const QString& keyField, const QString& key) const;
     void requireOpen() const;
     void execute(const QString& sql, const QVariantList& values = {}) const;
     void rollbackSavepoint() const;

@@ -7,6 +7,7 @@
 #include "core/VbRuntime.h"
 #include "navigator/MainWindowCalls.h"
 #include "navigator/NavigatorControls.h"
+#include "navigator/PageSources.h"
 #include "navigator/Wander.h"
 
 #include <exception>
@@ -118,15 +119,21 @@ void BrowserOne::ProgressChange(int progress, int progressMax)
     CurrentUrl = m_browser.LocationURL();
     if (CurrentUrl.isEmpty())
         CurrentUrl = QString::fromLatin1(UrlHint);
+    // An archived or mirrored page shows the address it stands for, with
+    // the source's short name; any other address shows as it is.
+    const QString shown = m_nav.pageSources().shown(CurrentUrl);
     if (st.gblnShowNextButton) {
         if (title.isEmpty())
             title = QString::fromLatin1(UrlHint);
         if (CurrentUrl != QLatin1String(UrlHint) && !AddressBarEdited)
-            txtAddressBar.setText(CurrentUrl);
-        form.setText(FiveBlanks + title + TenBlanks + QLatin1Char('[') + ProgressText +
-                     QLatin1Char(']'));
+            txtAddressBar.setText(shown);
+        QString caption =
+            FiveBlanks + title + TenBlanks + QLatin1Char('[') + ProgressText + QLatin1Char(']');
+        if (shown != CurrentUrl)
+            caption += TenBlanks + shown;
+        form.setText(caption);
     } else {
-        form.setText(CurrentUrl + FiveBlanks + QLatin1Char('[') + ProgressText + QLatin1Char(']') +
+        form.setText(shown + FiveBlanks + QLatin1Char('[') + ProgressText + QLatin1Char(']') +
                      TenBlanks + title);
     }
     paceWalks(progress, progressMax);
@@ -225,10 +232,16 @@ void BrowserOne::AddressBarKey(int key)
         return;
     if (key == 13) {
         m_nav.frmGeoCitiesCalls(GeoCitiesCall::StopAutoModes);
-        m_nav.NavigateSomeWhereElse(txtAddressBar.text());
+        m_nav.NavigateSomeWhereElse(PageSources::withoutLabel(txtAddressBar.text()));
     } else {
         AddressBarEdited = true;
     }
+}
+
+QString BrowserOne::CopyUrlText() const
+{
+    const QString original = m_nav.pageSources().originalOf(CurrentUrl).original;
+    return original.isEmpty() ? CurrentUrl : original + QLatin1Char('\n') + CurrentUrl;
 }
 
 void BrowserOne::AddressBarClick()

@@ -71,6 +71,9 @@ public:
     void CmdNextClick();
     void AddressBarKey(int key);
     void AddressBarClick();
+    // What "Copy URL" puts on the clipboard: the address on show, or for an
+    // archived or mirrored page the original address and it on two lines.
+    QString CopyUrlText() const;
     void WindowKey(int key);
     void TopClick();
     void SearchClick(int index);

@@ -13,9 +13,13 @@ public:
     using QWebEnginePage::QWebEnginePage;
 
     std::function<QWebEnginePage*()> newWindow;
+    // The address a clicked link is to open instead, as text: a URL or a
+    // local file. The link's own address, or none set, lets it through.
+    std::function<QString(const QString&)> linkTarget;
 
 protected:
     QWebEnginePage* createWindow(WebWindowType type) override;
+    bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
     // Script dialogs would stop a walk until someone answers them.
     void javaScriptAlert(const QUrl& securityOrigin, const QString& msg) override;
     bool javaScriptConfirm(const QUrl& securityOrigin, const QString& msg) override;

@@ -3,10 +3,13 @@
 #include "BrowserOneWindows.h"
 #include "Favorites.h"
 #include "WebBrowserControl.h"
+#include "WebPage.h"
 #include "core/AppContext.h"
 #include "core/ControlBinder.h"
 #include "core/PlaceWindow.h"
 #include "core/WindowPlace.h"
+#include "navigator/MainWindowCalls.h"
+#include "navigator/PageSources.h"
 
 #include <QClipboard>
 #include <QCloseEvent>
@@ -60,6 +63,9 @@ frmWBOne::frmWBOne(AppContext& ctx, MainWindowCalls& main, BrowserOneWindows& wi
     resize(twipsToPixels(WindowPlace::MinWidth), twipsToPixels(WindowPlace::MinHeight));
     setAutoFillBackground(true);
     buildControls();
+    m_control->page()->linkTarget = [&main](const QString& url) {
+        return main.pageSources().rewrite(url).target;
+    };
     m_rules = std::make_unique<BrowserOne>(ctx, main, *m_control, *this);
     m_links = std::make_unique<LinksPanel>(ctx, main, *m_rules, windows);
     ControlBinder::bindCaption(m_rules->form, this);
@@ -95,6 +101,7 @@ void frmWBOne::buildControls()
     layout->addWidget(m_view, 1);
     m_control = new WebBrowserControl(m_view, m_windows.profile());
     m_control->openWindow = [this] { return m_windows.openPopUp(); };
+
     m_windows.browsers().addOwn(this, [this] { close(); });
     // The hover menu answers the window's own strip around the address bar,
     // never the page: there it would cover the links a user clicks.
@@ -298,7 +305,7 @@ void frmWBOne::CopyLinkClick()
 {
     QClipboard* clipboard = QGuiApplication::clipboard();
     clipboard->clear();
-    clipboard->setText(m_rules->CurrentUrl);
+    clipboard->setText(m_rules->CopyUrlText());
 }
 
 void frmWBOne::SaveAsClick()

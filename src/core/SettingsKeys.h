@@ -62,6 +62,11 @@ inline constexpr const char* JapanTBFN = "JapanTBFN";
 inline constexpr const char* UsaRNS = "UsaRNS";
 inline constexpr const char* JapanRNS = "JapanRNS";
 inline constexpr const char* OnTopSynch = "gblnOnTopSynch";
+inline constexpr const char* PageSource = "PageSource";
+inline constexpr const char* ArchiveYearUSA = "ArchiveYearUSA";
+inline constexpr const char* ArchiveYearJapan = "ArchiveYearJapan";
+inline constexpr const char* LocalMirror = "LocalMirror";
+inline constexpr const char* WalkCaptured = "WalkCaptured";
 // WebBrowser and WebBrwsrTwo window places
 inline constexpr const char* NSWE_W = "NSWE_W";
 inline constexpr const char* NSWE_H = "NSWE_H";

@@ -156,9 +156,13 @@ void AddressComposer::NextClick()
         m_hooks.RandNavStep();
         return;
     }
-    HouseNumber = Vb::Str(Vb::Val(HouseNumber) + 1);
-    if (Vb::Val(HouseNumber) == 10000)
-        HouseNumber = QStringLiteral("1000");
+    if (const int captured = m_hooks.CapturedStep(HouseNumber, 1)) {
+        HouseNumber = QString::number(captured);
+    } else {
+        HouseNumber = Vb::Str(Vb::Val(HouseNumber) + 1);
+        if (Vb::Val(HouseNumber) == 10000)
+            HouseNumber = QStringLiteral("1000");
+    }
     ComposeAddress();
     m_hooks.OpenSite();
 }
@@ -166,9 +170,13 @@ void AddressComposer::NextClick()
 void AddressComposer::PreviousClick()
 {
     // No RandNav test here: Prev steps down even while RandNav runs.
-    HouseNumber = Vb::Str(Vb::Val(HouseNumber) - 1);
-    if (Vb::Val(HouseNumber) == 999)
-        HouseNumber = QStringLiteral("9999");
+    if (const int captured = m_hooks.CapturedStep(HouseNumber, -1)) {
+        HouseNumber = QString::number(captured);
+    } else {
+        HouseNumber = Vb::Str(Vb::Val(HouseNumber) - 1);
+        if (Vb::Val(HouseNumber) == 999)
+            HouseNumber = QStringLiteral("9999");
+    }
     ComposeAddress();
     m_hooks.OpenSite();
 }

@@ -12,4 +12,8 @@ public:
     virtual bool RandNavRunning() const = 0;
     virtual void RandNavStep() = 0;
     virtual void GoBack() = 0; // stop the browser's load and go back a page
+    // The captured house number to step to from house in the direction
+    // (+1 or -1) while the walk keeps to the archive's captures; 0 to step
+    // to the neighbouring number.
+    virtual int CapturedStep(const QString& house, int direction) = 0;
 };

@@ -3,6 +3,7 @@
 #include <QString>
 
 class NavigatorControls;
+class PageSources;
 class SavedLinks;
 class Wander;
 
@@ -45,4 +46,6 @@ public:
     virtual NavigatorControls& controls() = 0;
     virtual Wander& wander() = 0;
     virtual SavedLinks& savedLinks() = 0;
+    // Where the service's pages are opened from.
+    virtual PageSources& pageSources() = 0;
 };

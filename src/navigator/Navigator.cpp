@@ -23,9 +23,14 @@ QString flagText(bool flag)
 
 Navigator::Navigator(AppContext& ctx, NavigatorHost& host, NavigatorWindows& windows)
     : m_ctx(ctx), m_host(host), m_windows(windows), m_composer(ctx.state, m_c, *this),
-      m_wander(ctx, *this), m_saved(ctx, m_c, m_composer, *this, host, windows)
+      m_wander(ctx, *this), m_saved(ctx, m_c, m_composer, *this, host, windows),
+      m_archiveMenu(ctx, m_sources), m_captured(ctx, m_sources)
 {
     connectEvents();
+    m_captured.currentBlock = [this] {
+        return blockOf(m_c.cmbNeighborhood.text(), m_c.cmbSuburb.text());
+    };
+    connect(&m_archiveMenu, &ArchiveMenu::sourceChanged, &m_captured, &CapturedWalk::showChoice);
 }
 
 void Navigator::connectEvents()
@@ -109,6 +114,8 @@ void Navigator::LoadMainSettings()
     raise(st.gblnOSLOC, Sect::Startup, Key::OSLOC, "0");
     raise(st.gblnFullPages, Sect::Startup, Key::FullPages, "1");
     st.glngAutoLimit = Vb::CLng(m_ctx.GetSetting(Sect::Startup, Key::AutoLimit, "0"));
+    m_archiveMenu.load();
+    m_captured.showChoice();
 
     const QString firstName = st.catalogue.gastrCatalogue[0][0];
     QString neighborhood, suburb, house;
@@ -186,6 +193,9 @@ void Navigator::NavigateSomeWhereElse(const QString& url)
     QString target = url;
     if (url.left(11).toLower() != QLatin1String("http://www.") && !localFile)
         target = QStringLiteral("http://www.") + url;
+    // The service is gone: its addresses open from the chosen archive or
+    // mirror, and every other address as it stands.
+    target = m_sources.rewrite(target).target;
     try {
         m_windows.ShowBrowserOne();
     } catch (const std::exception&) {
@@ -204,6 +214,18 @@ void Navigator::GoBack()
         m_windows.browserGoBack();
     } catch (const std::exception&) {
     }
+}
+
+QString Navigator::blockOf(const QString& neighborhood, const QString& suburb) const
+{
+    return CaptureIndex::blockKey(m_ctx.state.gstrSiteLabel, neighborhood, suburb,
+                                  m_ctx.state.gblnJapan);
+}
+
+int Navigator::CapturedStep(const QString& house, int direction)
+{
+    return m_captured.step(blockOf(m_c.cmbNeighborhood.text(), m_c.cmbSuburb.text()),
+                           static_cast<int>(Vb::Val(house)), direction);
 }
 
 void Navigator::LeaveSavedView()

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "AddressComposer.h"
+#include "ArchiveMenu.h"
+#include "CapturedWalk.h"
 #include "ComposerHooks.h"
 #include "MainWindowCalls.h"
 #include "NavigatorControls.h"
@@ -34,6 +36,11 @@ public:
     AppContext& context() { return m_ctx; }
     Wander& wander() override { return m_wander; }
     SavedLinks& savedLinks() override { return m_saved; }
+    PageSources& pageSources() override { return m_sources; }
+    ArchiveMenu& archiveMenu() { return m_archiveMenu; }
+    CapturedWalk& capturedWalk() { return m_captured; }
+    // The index's name of the block of a Neighborhood and Suburb.
+    QString blockOf(const QString& neighborhood, const QString& suburb) const;
     NavigatorHost& host() { return m_host; }
     NavigatorWindows& windows() { return m_windows; }
 
@@ -62,6 +69,7 @@ public:
     bool RandNavRunning() const override;
     void RandNavStep() override;
     void GoBack() override;
+    int CapturedStep(const QString& house, int direction) override;
 
     // Menu entries and other clicks of the window.
     void JapanClick();
@@ -99,4 +107,7 @@ private:
     AddressComposer m_composer;
     Wander m_wander;
     SavedLinks m_saved;
+    PageSources m_sources;
+    ArchiveMenu m_archiveMenu;
+    CapturedWalk m_captured;
 };

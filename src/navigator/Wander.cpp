@@ -12,6 +12,7 @@
 
 namespace {
 const char* const NoConnection = "No internet connection!";
+constexpr int MaxBlockDraws = 20;
 
 QString clockText()
 {
@@ -126,18 +127,29 @@ int Wander::drawSuburb(int neighborhood)
 void Wander::RandNavStep()
 {
     SharedState& st = m_ctx.state;
-    bool firstPair = true;
-    const int k = drawNeighborhood(firstPair);
-    const QString name = st.catalogue.name(k);
-    if (st.gblnAssignRTC) {
-        m_c.lblComment.setText(st.catalogue.gastrDescription.value(k));
-        m_composer.CurrentNeighborhood = static_cast<qint16>(k);
-        // The second pair always shows the USA list, also on the Japan site.
-        m_c.picNeighborhood.show(firstPair && st.gblnJapan, k + 1);
+    QString name, suburb;
+    // Keeping to the archive's captures, a block the archive holds nothing
+    // of is drawn again, a few times at most.
+    for (int draws = 1;; ++draws) {
+        bool firstPair = true;
+        const int k = drawNeighborhood(firstPair);
+        name = st.catalogue.name(k);
+        if (st.gblnAssignRTC) {
+            m_c.lblComment.setText(st.catalogue.gastrDescription.value(k));
+            m_composer.CurrentNeighborhood = static_cast<qint16>(k);
+            // The second pair always shows the USA list, also on the Japan site.
+            m_c.picNeighborhood.show(firstPair && st.gblnJapan, k + 1);
+        }
+        const int s = drawSuburb(k);
+        suburb = s > 0 ? st.catalogue.suburb(k, s) : QString("");
+        if (draws >= MaxBlockDraws ||
+            !m_nav.capturedWalk().holdsNothing(m_nav.blockOf(name, suburb)))
+            break;
     }
-    const int s = drawSuburb(k);
-    const QString suburb = s > 0 ? st.catalogue.suburb(k, s) : QString("");
-    const QString house = RandomDigits();
+    QString house = RandomDigits();
+    // Keeping to the archive's captures, the digits choose among them.
+    if (const int captured = m_nav.capturedWalk().draw(m_nav.blockOf(name, suburb), house))
+        house = QString::number(captured);
     if (st.gblnAssignRTC) {
         m_composer.HouseNumber = house;
         m_c.cmbNeighborhood.setText(name);

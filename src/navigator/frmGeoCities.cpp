@@ -15,9 +15,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QSlider>
+#include <QToolButton>
 
 namespace {
 QLabel* caption(const QString& name, const QString& text, QWidget* parent, QWidget* buddy)
@@ -187,6 +189,20 @@ void frmGeoCities::buildMenus()
     connect(addEntry(tools, "mnuPublish", tr("Publish Files"), nullptr), &QAction::triggered, this,
             show(ProgramWindow::GeoFtp));
     bound(tools, c.mnuOptions);
+    QMenu* pages = tools->addMenu(tr("Open pages from"));
+    pages->setObjectName(QStringLiteral("mnuPagesFrom"));
+    ArchiveMenu& archive = m_nav.archiveMenu();
+    for (Control* entry :
+         {&archive.mnuPagesOriginal, &archive.mnuPagesArchive, &archive.mnuPagesGallery,
+          &archive.mnuPagesOoCities, &archive.mnuPagesMirror})
+        bound(pages, *entry);
+    pages->addSeparator();
+    bound(pages, archive.mnuArchiveYear)->setCheckable(false);
+    pages->addSeparator();
+    CapturedWalk& walk = m_nav.capturedWalk();
+    bound(pages, walk.mnuWalkCaptured);
+    bound(pages, walk.mnuRefreshCaptures)->setCheckable(false);
+    buildCaptureProgress();
 
     QMenu* xtras = menuBar()->addMenu(tr("Xtras"));
     xtras->setObjectName(QStringLiteral("mnuXtras"));
@@ -227,6 +243,34 @@ void frmGeoCities::buildMenus()
     c.mnuCache.setEnabled(m_windows.hasWindow(ProgramWindow::Cache));
     c.mnuGeoTree.setEnabled(m_windows.hasWindow(ProgramWindow::GeoTree));
     c.mnuOptions.setEnabled(m_windows.hasWindow(ProgramWindow::Options));
+}
+
+// The filling of the capture index shows at the menu bar's corner, so that
+// the window keeps its fixed size.
+void frmGeoCities::buildCaptureProgress()
+{
+    CapturedWalk& walk = m_nav.capturedWalk();
+    auto* corner = new QWidget(this);
+    auto* row = new QHBoxLayout(corner);
+    row->setContentsMargins(0, 0, 4, 0);
+    auto* bar = new QProgressBar(corner);
+    bar->setObjectName(walk.prgCaptures.name());
+    bar->setRange(0, 0);
+    bar->setMaximumWidth(60);
+    bar->setAccessibleName(tr("Capture index"));
+    auto* stop = new QToolButton(corner);
+    ControlBinder::bind(walk.cmdStopCaptures, stop);
+    row->addWidget(bar);
+    row->addWidget(stop);
+    auto show = [bar, stop, &walk] {
+        bar->setToolTip(walk.prgCaptures.text());
+        bar->setVisible(walk.prgCaptures.isVisible());
+        stop->setVisible(walk.cmdStopCaptures.isVisible());
+    };
+    connect(&walk.prgCaptures, &Control::viewChanged, bar, show);
+    connect(&walk.prgCaptures, &Control::changed, bar, show);
+    show();
+    menuBar()->setCornerWidget(corner, Qt::TopRightCorner);
 }
 
 void frmGeoCities::showPicture()

@@ -42,6 +42,7 @@ protected:
 private:
     void buildControls();
     void buildMenus();
+    void buildCaptureProgress();
     QAction* addEntry(QMenu* menu, const QString& name, const QString& caption,
                       void (Navigator::*slot)());
     void showPicture();

@@ -116,6 +116,47 @@ private slots:
         QVERIFY(!r.one->AddressBarEdited);
     }
 
+    void anArchivedPageShowsWhatItStandsFor()
+    {
+        BrowserRig r;
+        r.open();
+        const QString archived = "https://web.archive.org/web/20090805120000if_/"
+                                 "http://www.geocities.com/Paris/1234/";
+        // With the original addresses an archive's page shows as it is.
+        r.browser.url = archived;
+        r.browser.title = "Bonjour";
+        r.browser.progress(100, 100);
+        QCOMPARE(r.one->form.text(), QString("     Bonjour          [100%]"));
+        QCOMPARE(r.one->txtAddressBar.text(), archived);
+        QCOMPARE(r.one->CopyUrlText(), archived);
+
+        r.nav.archiveMenu().mnuPagesArchive.click();
+        const QString shown = "http://www.geocities.com/Paris/1234/  [Archive 2009]";
+        r.browser.progress(0, 0);
+        QCOMPARE(r.one->form.text(), "     Bonjour          [Done]          " + shown);
+        QCOMPARE(r.one->txtAddressBar.text(), shown);
+        QCOMPARE(r.one->CopyUrlText(), "http://www.geocities.com/Paris/1234/\n" + archived);
+        // Enter on the shown text opens the original address through the rewrite.
+        r.one->AddressBarKey(13);
+        QCOMPARE(r.host.navigated().last(), "https://web.archive.org/web/2009if_/"
+                                            "http://www.geocities.com/Paris/1234/");
+
+        // Japan on a USA-only mirror says where it came from instead.
+        r.nav.archiveMenu().mnuPagesGallery.click();
+        r.t.state.gblnShowNextButton = false;
+        r.browser.url =
+            "https://web.archive.org/web/2019if_/http://www.geocities.co.jp/Milkyway/1000/";
+        r.browser.progress(50, 100);
+        QCOMPARE(r.one->form.text(), QString("http://www.geocities.co.jp/Milkyway/1000/  "
+                                             "[Archive 2019, not on Gallery]     [50%]          "
+                                             "Bonjour"));
+        r.browser.url = "http://www.altavista.com/";
+        r.browser.progress(50, 100);
+        QCOMPARE(r.one->form.text(),
+                 QString("http://www.altavista.com/     [50%]          Bonjour"));
+        QCOMPARE(r.one->CopyUrlText(), QString("http://www.altavista.com/"));
+    }
+
     void aWalkWaitsForTheWholePage()
     {
         BrowserRig r;

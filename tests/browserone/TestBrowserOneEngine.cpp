@@ -4,12 +4,14 @@
 #include "WidgetChecks.h"
 #include "app/WindowRegistry.h"
 #include "browserone/WebBrowserControl.h"
+#include "browserone/WebPage.h"
 #include "browserone/frmWBOLinks.h"
 #include "browserone/frmWBOne.h"
 #include "core/WindowPlace.h"
 #include "navigator/frmGeoCities.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QMenu>
 #include <QRegularExpression>
@@ -31,6 +33,9 @@ LocalWebServer::Reply answer(const QString& url)
 {
     static const QRegularExpression house(QStringLiteral("/(\\d{4})/$"));
     const auto m = house.match(url);
+    if (url.endsWith(QLatin1String("/linked/")))
+        return {LocalWebServer::page(
+            "Linked", "<a id='next' href='http://www.geocities.com/Area51/1001/'>next</a>")};
     if (url.endsWith(QLatin1String("/popup/")))
         return {LocalWebServer::page(
             "Opens a window", "<script>window.open('http://www.geocities.com/popped/');</script>"
@@ -150,6 +155,49 @@ private slots:
         r.nav->controls().cmdNext.click();
         QTRY_VERIFY_WITH_TIMEOUT(r.one().form.text() == "     House 1001          [Done]", 10000);
         QCOMPARE(r.windows.browserOne(), window);
+    }
+
+    void anArchivedPageIsShownAndCopiedByItsOriginalAddress()
+    {
+        EngineRig r;
+        PageSources& sources = r.nav->pageSources();
+        sources.archiveBase = "http://web.archive.org"; // the test server has no TLS
+        r.nav->archiveMenu().mnuPagesArchive.click();
+        r.nav->controls().cmdOpenSite.click();
+        // The caption ends in the address shown, after the progress.
+        QTRY_VERIFY_WITH_TIMEOUT(r.windows.browserOne() && r.one().form.text().contains("[Done]"),
+                                 20000);
+        const QString archived =
+            "http://web.archive.org/web/2009if_/http://www.geocities.com/Area51/1000/";
+        QCOMPARE(server.requested.first(), archived);
+        QCOMPARE(r.one().txtAddressBar.text(),
+                 QString("http://www.geocities.com/Area51/1000/  [Archive 2009]"));
+        QVERIFY(r.one().form.text().endsWith("[Done]          http://www.geocities.com/Area51/"
+                                             "1000/  [Archive 2009]"));
+        r.windows.browserOne()->findChild<QAction*>("mnuCopyLink")->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->text(),
+                 "http://www.geocities.com/Area51/1000/\n" + archived);
+        r.nav->archiveMenu().mnuPagesOriginal.click();
+    }
+
+    void aPagesOwnLinkToTheServiceOpensFromTheMirror()
+    {
+        EngineRig r;
+        r.nav->archiveMenu().mnuPagesGallery.click();
+        r.nav->NavigateSomeWhereElse("geocities.com/Area51/linked/");
+        QTRY_VERIFY_WITH_TIMEOUT(r.windows.browserOne() && r.one().form.text().contains("[Done]"),
+                                 20000);
+        QCOMPARE(server.requested.first(),
+                 QString("http://geocities.restorativland.org/Area51/linked/"));
+        r.windows.browserOne()->control().page()->runJavaScript(
+            "document.getElementById('next').click()");
+        QTRY_VERIFY_WITH_TIMEOUT(
+            server.requested.contains("http://geocities.restorativland.org/Area51/1001/"), 20000);
+        QVERIFY(!server.requested.contains("http://www.geocities.com/Area51/1001/"));
+        QTRY_VERIFY_WITH_TIMEOUT(r.one().txtAddressBar.text() ==
+                                     "http://www.geocities.com/Area51/1001/  [Gallery]",
+                                 20000);
+        r.nav->archiveMenu().mnuPagesOriginal.click();
     }
 
     void theHoverMenuHasEveryEntry()

@@ -1,4 +1,5 @@
 #include "EngineEnvironment.h"
+#include "LocalWebServer.h"
 #include "TestContext.h"
 #include "WidgetChecks.h"
 #include "app/WindowRegistry.h"
@@ -10,9 +11,11 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QSlider>
+#include <QToolButton>
 #include <QtTest>
 #include <functional>
 
@@ -85,8 +88,13 @@ private slots:
                  (QStringList{"Sto&p>", "&GeoTree", "Go&Japan", "-", "&Import Links",
                               "&Export Links", "-", "E&xit"}));
         QCOMPARE(entries(r.menu("mnuStop")), (QStringList{"&AutoNav", "&RandNav"}));
-        QCOMPARE(entries(r.menu("mnuSettings")),
-                 (QStringList{"Keep OnTo&p", "Publish Files", "Vorlan &Options"}));
+        QCOMPARE(
+            entries(r.menu("mnuSettings")),
+            (QStringList{"Keep OnTo&p", "Publish Files", "Vorlan &Options", "Open pages from>"}));
+        QCOMPARE(entries(r.menu("mnuPagesFrom")),
+                 (QStringList{"Original addresses", "Internet Archive", "GeoCities gallery",
+                              "OoCities mirror", "Local mirror", "-", "Archive year...", "-",
+                              "Walk only captured pages", "Refresh capture index"}));
         QCOMPARE(entries(r.menu("mnuXtras")),
                  (QStringList{"&Web Browser Two", "IE&Cache Manager", "Create a web Page",
                               "Load Pictures from file list", "Download files from file list"}));
@@ -155,6 +163,45 @@ private slots:
         japan->trigger();
         QVERIFY(!japan->isChecked());
         QCOMPARE(r.w->windowTitle(), QString("Navigate GeoCities USA"));
+    }
+
+    void theSourceMenuKeepsOneEntryChecked()
+    {
+        WindowRig r;
+        auto action = [&r](const char* name) { return r.w->findChild<QAction*>(name); };
+        QVERIFY(action("mnuPagesOriginal")->isChecked());
+        action("mnuPagesOoCities")->trigger();
+        QVERIFY(action("mnuPagesOoCities")->isChecked());
+        QVERIFY(!action("mnuPagesOriginal")->isChecked());
+        // A second press of the checked entry keeps it checked.
+        action("mnuPagesOoCities")->trigger();
+        QVERIFY(action("mnuPagesOoCities")->isChecked());
+        QCOMPARE(r.t.ctx.GetSetting("AdvOpt", "PageSource"), QString("3"));
+        QVERIFY(!action("mnuArchiveYear")->isCheckable());
+    }
+
+    void theIndexFillsBesideTheMenusAndCanBeStopped()
+    {
+        WindowRig r;
+        LocalWebServer archive([](const QString&) -> LocalWebServer::Reply {
+            return {"http://www.geocities.com/Area51/1200/\n", 200, true};
+        });
+        QVERIFY(archive.start());
+        Navigator& nav = r.w->navigator();
+        nav.capturedWalk().fetcher().cdxBase = archive.proxyAddress();
+        r.w->findChild<QAction*>("mnuPagesArchive")->trigger();
+        auto* bar = r.find<QProgressBar>("prgCaptures");
+        auto* stop = r.find<QToolButton>("cmdStopCaptures");
+        QVERIFY(bar->isHidden() && stop->isHidden());
+        QTest::mouseClick(r.find<QPushButton>("cmdNext"), Qt::LeftButton);
+        QVERIFY(!bar->isHidden() && !stop->isHidden());
+        QVERIFY(bar->toolTip().startsWith("Indexing geocities.com/Area51"));
+        QTRY_COMPARE(archive.requested.size(), 1);
+        QTest::mouseClick(stop, Qt::LeftButton);
+        QVERIFY(bar->isHidden() && stop->isHidden());
+        QVERIFY(!nav.capturedWalk().fetcher().busy());
+        archive.releaseStalled();
+        nav.archiveMenu().mnuPagesOriginal.click();
     }
 
     void theListsTakeNoTyping()

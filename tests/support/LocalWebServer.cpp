@@ -71,7 +71,8 @@ void LocalWebServer::answer(QTcpSocket* socket, const Reply& reply)
 {
     QByteArray head = "HTTP/1.1 " + QByteArray::number(reply.status) +
                       (reply.status == 200 ? " OK" : " Not Found") +
-                      "\r\nContent-Type: text/html; charset=utf-8\r\nCache-Control: no-store\r\n";
+                      "\r\nContent-Type: text/html; charset=utf-8\r\nCache-Control: no-store\r\n" +
+                      reply.headers;
     if (reply.stall) {
         socket->write(head + "Content-Length: 100000\r\n\r\n" + reply.body.left(200));
         m_stalled << socket;

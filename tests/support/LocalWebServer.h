@@ -22,6 +22,7 @@ public:
         // the connection is held open.
         bool stall = false;
         int delayMs = 0;
+        QByteArray headers = QByteArray(); // further header lines, each ending in CR LF
     };
     // Answers a request for the full address url.
     using Handler = std::function<Reply(const QString& url)>;
