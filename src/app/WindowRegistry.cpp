@@ -7,6 +7,7 @@
 #include "core/frmAbout.h"
 #include "navigator/NeighborhoodPictures.h"
 #include "navigator/frmGeoCities.h"
+#include "netfetch/NetFetchWindows.h"
 
 WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
 {
@@ -17,11 +18,15 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
         frmAbout about(m_ctx.prompts, NeighborhoodPictures::picture(false, 1), m_main.get());
         about.exec();
     });
+    add(
+        ProgramWindow::GeoTree, [this] { netFetchWindows().showTree(); },
+        [this] { netFetchWindows().unloadTree(); });
 }
 
 // Browser One's windows reach into the main window's rules: they go first.
 WindowRegistry::~WindowRegistry()
 {
+    m_netFetch.reset();
     m_browserOne.reset();
     m_main.reset();
 }
@@ -47,6 +52,28 @@ BrowserOneWindows& WindowRegistry::browserOneWindows()
 {
     main();
     return *m_browserOne;
+}
+
+NetFetchWindows& WindowRegistry::netFetchWindows()
+{
+    main();
+    if (!m_netFetch) {
+        NetFetchWindows::Links links;
+        links.browserWindow = [this](GeoTreeHost::Browser which) -> QWidget* {
+            return which == GeoTreeHost::BrowserOne ? browserOne() : nullptr;
+        };
+        links.showBrowserOne = [this] { ShowBrowserOne(); };
+        links.treeUnloaded = [this] {
+            m_main->navigator().controls().mnuGeoTree.setChecked(false);
+        };
+        m_netFetch = std::make_unique<NetFetchWindows>(m_ctx, m_main->navigator(), links);
+    }
+    return *m_netFetch;
+}
+
+int WindowRegistry::treeWidthTwips() const
+{
+    return m_netFetch ? m_netFetch->treeWidthTwips() : 0;
 }
 
 frmWBOne* WindowRegistry::browserOne() const

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "GeoTreeHost.h"
+
+#include <QPointer>
+#include <QStringList>
+#include <functional>
+
+struct AppContext;
+class MainWindowCalls;
+class QWidget;
+class frmTreeView;
+
+// The net fetch tools' windows as the program wires them in, each made on
+// first use: GeoTree so far. The program's registry makes this and reaches
+// the windows through it.
+class NetFetchWindows
+{
+public:
+    // What the tools need of the other windows.
+    struct Links
+    {
+        // A browser's window while it is open, else null.
+        std::function<QWidget*(GeoTreeHost::Browser)> browserWindow;
+        std::function<void()> showBrowserOne;
+        // The tree closed itself: its menu entry is given back.
+        std::function<void()> treeUnloaded;
+    };
+
+    NetFetchWindows(AppContext& ctx, MainWindowCalls& main, Links links);
+    ~NetFetchWindows();
+
+    void showTree();
+    void unloadTree();
+    frmTreeView* tree() const;
+    // The tree window's width in twips, 0 while it is not open.
+    int treeWidthTwips() const;
+
+private:
+    AppContext& m_ctx;
+    MainWindowCalls& m_main;
+    Links m_links;
+    QPointer<frmTreeView> m_tree;
+};
