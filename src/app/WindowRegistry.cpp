@@ -21,6 +21,7 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
     add(
         ProgramWindow::GeoTree, [this] { netFetchWindows().showTree(); },
         [this] { netFetchWindows().unloadTree(); });
+    add(ProgramWindow::NetPics, [this] { netFetchWindows().showNetPics(); });
 }
 
 // Browser One's windows reach into the main window's rules: they go first.
@@ -65,6 +66,11 @@ NetFetchWindows& WindowRegistry::netFetchWindows()
         links.showBrowserOne = [this] { ShowBrowserOne(); };
         links.treeUnloaded = [this] {
             m_main->navigator().controls().mnuGeoTree.setChecked(false);
+        };
+        links.communicatWithNetPic = [this](const QStringList& pages) {
+            ShowBrowserOne();
+            if (frmWBOne* browser = browserOne())
+                browser->rules().CommunicatWithNetPic(pages);
         };
         m_netFetch = std::make_unique<NetFetchWindows>(m_ctx, m_main->navigator(), links);
     }

@@ -51,19 +51,19 @@ QStringList FileDialogFilters(const QString& classicFilter)
 }
 
 QString BuildFilter(AppContext& ctx, const QString& folder, const QString& /*unused*/,
-                    const QString& ext1, const QString& ext2)
+                    const QString& ext1, const QString& ext2, const QString& title)
 {
-    return BuildFilter(ctx.prompts, OutputDirectory(ctx), folder, ext1, ext2);
+    return BuildFilter(ctx.prompts, OutputDirectory(ctx), folder, ext1, ext2, title);
 }
 
 QString BuildFilter(PromptService& prompts, const QString& outputDirectory, const QString& folder,
-                    const QString& ext1, const QString& ext2)
+                    const QString& ext1, const QString& ext2, const QString& title)
 {
     const QString filter =
         QStringLiteral("All Files (*.*)|*.*|") + filterFor(ext1) + filterFor(ext2);
     // The entry of ext1 comes second and is the one offered first.
     const int selected = ext1.isEmpty() ? 0 : 1;
-    const QString chosen = prompts.openFileName(QString(), startFolder(folder, outputDirectory),
+    const QString chosen = prompts.openFileName(title, startFolder(folder, outputDirectory),
                                                 FileDialogFilters(filter), selected);
     if (chosen.isEmpty() || !QFileInfo(chosen).isFile())
         return QString("");

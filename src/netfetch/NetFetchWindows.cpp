@@ -1,6 +1,7 @@
 #include "NetFetchWindows.h"
 
 #include "core/WindowPlace.h"
+#include "frmNetPics.h"
 #include "frmTreeView.h"
 
 NetFetchWindows::NetFetchWindows(AppContext& ctx, MainWindowCalls& main, Links links)
@@ -10,6 +11,7 @@ NetFetchWindows::NetFetchWindows(AppContext& ctx, MainWindowCalls& main, Links l
 
 NetFetchWindows::~NetFetchWindows()
 {
+    delete m_netPics;
     delete m_tree;
 }
 
@@ -40,4 +42,19 @@ int NetFetchWindows::treeWidthTwips() const
 frmTreeView* NetFetchWindows::tree() const
 {
     return m_tree;
+}
+
+void NetFetchWindows::showNetPics()
+{
+    if (!m_netPics)
+        m_netPics = new frmNetPics(m_ctx, m_main, m_links.communicatWithNetPic,
+                                   [this] { return treeWidthTwips(); });
+    m_netPics->show();
+    m_netPics->raise();
+    m_netPics->activateWindow();
+}
+
+frmNetPics* NetFetchWindows::netPics() const
+{
+    return m_netPics;
 }

@@ -9,10 +9,11 @@
 struct AppContext;
 class MainWindowCalls;
 class QWidget;
+class frmNetPics;
 class frmTreeView;
 
 // The net fetch tools' windows as the program wires them in, each made on
-// first use: GeoTree so far. The program's registry makes this and reaches
+// first use: GeoTree and NetPic. The program's registry makes this and reaches
 // the windows through it.
 class NetFetchWindows
 {
@@ -25,6 +26,8 @@ public:
         std::function<void()> showBrowserOne;
         // The tree closed itself: its menu entry is given back.
         std::function<void()> treeUnloaded;
+        // Hands picture pages to Browser One for paging.
+        std::function<void(const QStringList&)> communicatWithNetPic;
     };
 
     NetFetchWindows(AppContext& ctx, MainWindowCalls& main, Links links);
@@ -33,6 +36,8 @@ public:
     void showTree();
     void unloadTree();
     frmTreeView* tree() const;
+    void showNetPics();
+    frmNetPics* netPics() const;
     // The tree window's width in twips, 0 while it is not open.
     int treeWidthTwips() const;
 
@@ -41,4 +46,5 @@ private:
     MainWindowCalls& m_main;
     Links m_links;
     QPointer<frmTreeView> m_tree;
+    QPointer<frmNetPics> m_netPics;
 };
