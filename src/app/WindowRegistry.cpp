@@ -7,6 +7,7 @@
 #include "core/frmAbout.h"
 #include "navigator/NeighborhoodPictures.h"
 #include "navigator/frmGeoCities.h"
+#include "netfetch/FileGetter.h"
 #include "netfetch/NetFetchWindows.h"
 
 WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
@@ -22,6 +23,13 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
         ProgramWindow::GeoTree, [this] { netFetchWindows().showTree(); },
         [this] { netFetchWindows().unloadTree(); });
     add(ProgramWindow::NetPics, [this] { netFetchWindows().showNetPics(); });
+    add(
+        ProgramWindow::Inetget,
+        [this] { netFetchWindows().frmInetgetCalls(int(InetgetCall::GetList)); },
+        [this] {
+            if (m_netFetch)
+                m_netFetch->unloadGetter();
+        });
 }
 
 // Browser One's windows reach into the main window's rules: they go first.
@@ -67,6 +75,7 @@ NetFetchWindows& WindowRegistry::netFetchWindows()
         links.treeUnloaded = [this] {
             m_main->navigator().controls().mnuGeoTree.setChecked(false);
         };
+        links.profile = [this] { return browserOneWindows().profile(); };
         links.communicatWithNetPic = [this](const QStringList& pages) {
             ShowBrowserOne();
             if (frmWBOne* browser = browserOne())

@@ -1,6 +1,7 @@
 #include "NetFetchWindows.h"
 
 #include "core/WindowPlace.h"
+#include "frmInetget.h"
 #include "frmNetPics.h"
 #include "frmTreeView.h"
 
@@ -11,6 +12,7 @@ NetFetchWindows::NetFetchWindows(AppContext& ctx, MainWindowCalls& main, Links l
 
 NetFetchWindows::~NetFetchWindows()
 {
+    delete m_getter;
     delete m_netPics;
     delete m_tree;
 }
@@ -57,4 +59,30 @@ void NetFetchWindows::showNetPics()
 frmNetPics* NetFetchWindows::netPics() const
 {
     return m_netPics;
+}
+
+frmInetget* NetFetchWindows::getter()
+{
+    if (!m_getter)
+        m_getter = new frmInetget(m_ctx, m_main, m_links.profile ? m_links.profile() : nullptr,
+                                  [this] { return treeWidthTwips(); });
+    return m_getter;
+}
+
+void NetFetchWindows::frmInetgetCalls(int code, const QString& url)
+{
+    frmInetget* window = getter();
+    window->Load();
+    window->rules().frmInetgetCalls(static_cast<InetgetCall>(code), url);
+}
+
+QString NetFetchWindows::InvisibleInetUsage(const QString& url)
+{
+    return getter()->rules().InvisibleInetUsage(url);
+}
+
+void NetFetchWindows::unloadGetter()
+{
+    if (m_getter && m_getter->isLoaded())
+        m_getter->close();
 }

@@ -9,11 +9,13 @@
 struct AppContext;
 class MainWindowCalls;
 class QWidget;
+class QWebEngineProfile;
+class frmInetget;
 class frmNetPics;
 class frmTreeView;
 
 // The net fetch tools' windows as the program wires them in, each made on
-// first use: GeoTree and NetPic. The program's registry makes this and reaches
+// first use: GeoTree, NetPic and the file getter. The program's registry makes this and reaches
 // the windows through it.
 class NetFetchWindows
 {
@@ -28,6 +30,8 @@ public:
         std::function<void()> treeUnloaded;
         // Hands picture pages to Browser One for paging.
         std::function<void(const QStringList&)> communicatWithNetPic;
+        // The browser windows' profile, which the getter's browser shares.
+        std::function<QWebEngineProfile*()> profile;
     };
 
     NetFetchWindows(AppContext& ctx, MainWindowCalls& main, Links links);
@@ -38,6 +42,12 @@ public:
     frmTreeView* tree() const;
     void showNetPics();
     frmNetPics* netPics() const;
+    // The getter, made on first use and loaded on each call.
+    void frmInetgetCalls(int code, const QString& url = QString());
+    // The text at url, fetched without showing the getter.
+    QString InvisibleInetUsage(const QString& url);
+    void unloadGetter();
+    frmInetget* getter();
     // The tree window's width in twips, 0 while it is not open.
     int treeWidthTwips() const;
 
@@ -47,4 +57,5 @@ private:
     Links m_links;
     QPointer<frmTreeView> m_tree;
     QPointer<frmNetPics> m_netPics;
+    QPointer<frmInetget> m_getter;
 };

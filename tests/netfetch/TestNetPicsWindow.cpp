@@ -61,6 +61,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(browser->control().LocationName(), QString("NetPic"), 40000);
         QVERIFY(browser->control().LocationURL().endsWith("/N_P_Temp.htm"));
 
+        QTRY_VERIFY_WITH_TIMEOUT(loads.size() >= 1, 40000);
         QTest::mouseClick(browser->findChild<QPushButton*>("cmdNext"), Qt::LeftButton);
         QTRY_VERIFY_WITH_TIMEOUT(browser->control().LocationURL().endsWith("/N_P_Temp_1.htm"),
                                  40000);
