@@ -76,6 +76,10 @@ NetFetchWindows& WindowRegistry::netFetchWindows()
             m_main->navigator().controls().mnuGeoTree.setChecked(false);
         };
         links.profile = [this] { return browserOneWindows().profile(); };
+        links.browserControl = [this](int which) -> BrowserControl* {
+            frmWBOne* browser = which == 1 ? browserOne() : nullptr;
+            return browser ? &browser->control() : nullptr;
+        };
         links.communicatWithNetPic = [this](const QStringList& pages) {
             ShowBrowserOne();
             if (frmWBOne* browser = browserOne())

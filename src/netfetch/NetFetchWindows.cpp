@@ -1,9 +1,13 @@
 #include "NetFetchWindows.h"
 
+#include "PageFileList.h"
 #include "core/WindowPlace.h"
 #include "frmInetget.h"
 #include "frmNetPics.h"
 #include "frmTreeView.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 NetFetchWindows::NetFetchWindows(AppContext& ctx, MainWindowCalls& main, Links links)
     : m_ctx(ctx), m_main(main), m_links(std::move(links))
@@ -85,4 +89,16 @@ void NetFetchWindows::unloadGetter()
 {
     if (m_getter && m_getter->isLoaded())
         m_getter->close();
+}
+
+void NetFetchWindows::GetFileListMenu(int menuCode)
+{
+    PageFileList::Links links;
+    links.browser = m_links.browserControl;
+    links.InvisibleInetUsage = [this](const QString& url) { return InvisibleInetUsage(url); };
+    links.copyToClipboard = [](const QString& text) {
+        if (QClipboard* clipboard = QGuiApplication::clipboard())
+            clipboard->setText(text);
+    };
+    PageFileList(m_ctx, links).GetFileListMenu(menuCode);
 }

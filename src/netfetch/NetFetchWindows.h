@@ -9,6 +9,7 @@
 struct AppContext;
 class MainWindowCalls;
 class QWidget;
+class BrowserControl;
 class QWebEngineProfile;
 class frmInetget;
 class frmNetPics;
@@ -32,6 +33,8 @@ public:
         std::function<void(const QStringList&)> communicatWithNetPic;
         // The browser windows' profile, which the getter's browser shares.
         std::function<QWebEngineProfile*()> profile;
+        // The browser control of Browser One (1) or Two (2), null while closed.
+        std::function<BrowserControl*(int)> browserControl;
     };
 
     NetFetchWindows(AppContext& ctx, MainWindowCalls& main, Links links);
@@ -48,6 +51,9 @@ public:
     QString InvisibleInetUsage(const QString& url);
     void unloadGetter();
     frmInetget* getter();
+    // modInternet's entry for the browsers' "Get File List": code 2 for
+    // Browser One's page, 3 for Browser Two's.
+    void GetFileListMenu(int menuCode);
     // The tree window's width in twips, 0 while it is not open.
     int treeWidthTwips() const;
 
