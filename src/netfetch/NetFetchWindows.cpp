@@ -6,9 +6,6 @@
 #include "frmNetPics.h"
 #include "frmTreeView.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
-
 NetFetchWindows::NetFetchWindows(AppContext& ctx, MainWindowCalls& main, Links links)
     : m_ctx(ctx), m_main(main), m_links(std::move(links))
 {
@@ -96,9 +93,6 @@ void NetFetchWindows::GetFileListMenu(int menuCode)
     PageFileList::Links links;
     links.browser = m_links.browserControl;
     links.InvisibleInetUsage = [this](const QString& url) { return InvisibleInetUsage(url); };
-    links.copyToClipboard = [](const QString& text) {
-        if (QClipboard* clipboard = QGuiApplication::clipboard())
-            clipboard->setText(text);
-    };
+    links.copyToClipboard = [this](const QString& text) { getter()->copyToClipboard(text); };
     PageFileList(m_ctx, links).GetFileListMenu(menuCode);
 }

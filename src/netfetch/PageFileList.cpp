@@ -138,16 +138,7 @@ void PageFileList::scanPage(BrowserControl& browser, const QString& base, const 
     }
     if (m_links.unloadHiddenGetter)
         m_links.unloadHiddenGetter();
-    if (links.isEmpty()) {
-        m_ctx.MsgBox(QStringLiteral("No links to jpg files found!"));
-        QFile::remove(output);
-        return;
-    }
-    if (!writeLines(output, links)) {
-        m_ctx.MsgBox(QStringLiteral("There was an error!"));
-        return;
-    }
-    saved(output);
+    save(output, links, "No links to jpg files found!");
 }
 
 void PageFileList::scanIndex(BrowserControl& browser, const QString& base, const QString& output)
@@ -156,19 +147,17 @@ void PageFileList::scanIndex(BrowserControl& browser, const QString& base, const
     if (m_links.copyToClipboard)
         m_links.copyToClipboard(text);
     const QStringList names = indexNames(text, base);
-    if (names.isEmpty()) {
-        m_ctx.MsgBox(QStringLiteral("No file names found!"));
-        QFile::remove(output);
-        return;
-    }
-    if (!writeLines(output, names)) {
-        m_ctx.MsgBox(QStringLiteral("There was an error!"));
-        return;
-    }
-    saved(output);
+    save(output, names, "No file names found!");
 }
 
-void PageFileList::saved(const QString& output)
+void PageFileList::save(const QString& output, const QStringList& lines, const char* none)
 {
-    m_ctx.MsgBox(QStringLiteral("File list saved in: ") + QStringLiteral("\r\r") + output);
+    if (lines.isEmpty()) {
+        m_ctx.MsgBox(QString::fromLatin1(none));
+        QFile::remove(output);
+    } else if (!writeLines(output, lines)) {
+        m_ctx.MsgBox(QStringLiteral("There was an error!"));
+    } else {
+        m_ctx.MsgBox(QStringLiteral("File list saved in: ") + QStringLiteral("\r\r") + output);
+    }
 }

@@ -39,7 +39,8 @@ public:
 private:
     void scanPage(BrowserControl& browser, const QString& base, const QString& output);
     void scanIndex(BrowserControl& browser, const QString& base, const QString& output);
-    void saved(const QString& output);
+    // Writes the lines to output with the notice, or says none were found.
+    void save(const QString& output, const QStringList& lines, const char* none);
 
     AppContext& m_ctx;
     Links m_links;

@@ -11,7 +11,6 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <QWebEngineView>
 
@@ -44,8 +43,7 @@ void frmInetget::Load()
         return;
     m_loaded = true;
     m_rules->Load();
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    const QRect area = screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+    const QRect area = AvailableScreen();
     auto get = [this](const char* key, int def) {
         return m_ctx.GetSetting(Sect::Startup, key, QString::number(def));
     };

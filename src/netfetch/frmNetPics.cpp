@@ -11,12 +11,10 @@
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 
 namespace {
 // The place that PlaceWindow is given, in twips.
@@ -134,8 +132,7 @@ void frmNetPics::buildControls()
 
 void frmNetPics::place()
 {
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    const QRect area = screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+    const QRect area = AvailableScreen();
     const int left = (pixelsToTwips(area.width()) - Width) / 2;
     const int top = (pixelsToTwips(area.height()) - Height) / 2;
     const QString t = m_ctx.GetSetting(Sect::NetPic, Key::WBT_Net_PicT, QString::number(top));

@@ -1,14 +1,13 @@
 #include "frmTreeView.h"
 
 #include "core/AppContext.h"
+#include "core/PlaceWindow.h"
 #include "core/WindowPlace.h"
 #include "navigator/NeighborhoodPictures.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -16,17 +15,6 @@ namespace {
 // The tree's width at load, in twips; its height is the screen's.
 constexpr int TreeWidth = 3300;
 
-QRect availableScreen()
-{
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
-}
-
-QRect toTwips(const QRect& r)
-{
-    return QRect(pixelsToTwips(r.left()), pixelsToTwips(r.top()), pixelsToTwips(r.width()),
-                 pixelsToTwips(r.height()));
-}
 } // namespace
 
 frmTreeView::frmTreeView(AppContext& ctx, MainWindowCalls& main,
@@ -60,7 +48,7 @@ frmTreeView::~frmTreeView() = default;
 
 void frmTreeView::placeAtLeftEdge()
 {
-    const QRect screen = availableScreen();
+    const QRect screen = AvailableScreen();
     move(screen.left(), screen.top());
     resize(twipsToPixels(TreeWidth), screen.height());
 }
@@ -112,12 +100,12 @@ void frmTreeView::closeEvent(QCloseEvent* event)
 
 QRect frmTreeView::screenTwips() const
 {
-    return toTwips(QRect(QPoint(0, 0), availableScreen().size()));
+    return PixelsToTwips(QRect(QPoint(0, 0), AvailableScreen().size()));
 }
 
 QRect frmTreeView::treeTwips() const
 {
-    return toTwips(frameGeometry());
+    return PixelsToTwips(frameGeometry());
 }
 
 bool frmTreeView::treeMinimised() const
@@ -133,7 +121,7 @@ bool frmTreeView::browserOpen(Browser which) const
 QRect frmTreeView::browserTwips(Browser which) const
 {
     const QWidget* w = m_browserWindow(which);
-    return w ? toTwips(QRect(w->pos(), w->size())) : QRect();
+    return w ? PixelsToTwips(QRect(w->pos(), w->size())) : QRect();
 }
 
 bool frmTreeView::browserMaximised(Browser which) const
