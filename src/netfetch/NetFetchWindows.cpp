@@ -16,6 +16,7 @@ NetFetchWindows::~NetFetchWindows()
     delete m_getter;
     delete m_netPics;
     delete m_tree;
+    delete m_closingTree;
 }
 
 void NetFetchWindows::showTree()
@@ -23,6 +24,9 @@ void NetFetchWindows::showTree()
     if (!m_tree) {
         m_tree = new frmTreeView(m_ctx, m_main, m_links.browserWindow, m_links.showBrowserOne);
         QObject::connect(m_tree, &frmTreeView::unloaded, [this] {
+            // An unloaded tree is gone, though its object goes only later.
+            m_closingTree = m_tree.data();
+            m_tree = nullptr;
             if (m_links.treeUnloaded)
                 m_links.treeUnloaded();
         });

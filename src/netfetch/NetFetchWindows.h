@@ -62,6 +62,7 @@ private:
     MainWindowCalls& m_main;
     Links m_links;
     QPointer<frmTreeView> m_tree;
+    QPointer<frmTreeView> m_closingTree; // unloaded, not yet deleted
     QPointer<frmNetPics> m_netPics;
     QPointer<frmInetget> m_getter;
 };

@@ -185,6 +185,7 @@ void NetPic::AutoClick()
                    QStringLiteral("name, into the Auto text box!"),
                    QStringLiteral("Then click the Auto button.")},
                   QStringLiteral("No Url!"), false);
+        emit autoFillWanted();
         return;
     }
     const QString base = PathBeforeLast(url, QLatin1Char('/'));

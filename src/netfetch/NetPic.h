@@ -63,6 +63,11 @@ public:
     static bool numberKeyAccepted(int code);
     static bool prefixKeyAccepted(int code);
 
+signals:
+    // The picture address is wanted: the window puts the focus there.
+    void autoFillWanted();
+
+public:
     // The program's folder files: the generated list and the server log.
     QString tempListPath() const;
     QString logPath() const;

@@ -81,6 +81,7 @@ void frmNetPics::buildControls()
     ControlBinder::bind(r.Label5, heading);
     grid->addWidget(heading, 0, 0, 1, 4);
     QLineEdit* autoFill = edit(r.txtAutoFill, r.Label5.text());
+    connect(&r, &NetPic::autoFillWanted, autoFill, [autoFill] { autoFill->setFocus(); });
     heading->setBuddy(autoFill);
     grid->addWidget(autoFill, 1, 0, 1, 3);
     grid->addWidget(button(r.cmdNPAutoDrop), 1, 3);

@@ -187,12 +187,13 @@ private slots:
         GetterRig r;
         const QString outside = QDir(r.t.folders.root()).entryList().join(',');
         r.run({r.server.url("ok/1000/a/pic.jpg"), r.server.url("ok/2000/b/pic.jpg"),
-               r.server.url("ok/500/c/small.gif"), r.server.url("ok/10/d/note.txt"),
-               r.server.url("reset/x/r.jpg"), r.server.url("loop/x.jpg"),
-               r.server.url("endless/x/e.zip"), r.server.url("short/x/s.zip"),
-               r.server.url("stall/x/st.zip"), r.server.url("missing/300/x/gone.jpg"),
-               r.server.url("missing/700/x/err.jpg"), r.server.url("ok/800/f/..%2F..%2Fup.jpg"),
-               "/etc/passwd.jpg", r.server.url("ok/3000/g/pic.jpg")});
+               r.server.url("ok/100/h/pic.jpg"), r.server.url("ok/500/c/small.gif"),
+               r.server.url("ok/10/d/note.txt"), r.server.url("reset/x/r.jpg"),
+               r.server.url("loop/x.jpg"), r.server.url("endless/x/e.zip"),
+               r.server.url("short/x/s.zip"), r.server.url("stall/x/st.zip"),
+               r.server.url("missing/300/x/gone.jpg"), r.server.url("missing/700/x/err.jpg"),
+               r.server.url("ok/800/f/..%2F..%2Fup.jpg"), "/etc/passwd.jpg",
+               r.server.url("ok/3000/g/pic.jpg")});
         QCOMPARE(r.t.prompts.shown.value(0).title, QString("File with URL list!"));
         QCOMPARE(r.files(), QStringList({"..%2F..%2Fup.jpg", "err.jpg", "note.txt", "pic.jpg",
                                          "pic1.jpg", "pic2.jpg"}));
@@ -205,7 +206,7 @@ private slots:
         QVERIFY(r.getter->FileMode);
         QVERIFY(!r.getter->GetterBusy);
         QCOMPARE(r.window.calls, QStringList({"show", "unload"}));
-        QCOMPARE(r.getter->lblInetFiles.text(), r.server.url("ok/3000/g/pic.jpg") + ", 14 of 14");
+        QCOMPARE(r.getter->lblInetFiles.text(), r.server.url("ok/3000/g/pic.jpg") + ", 15 of 15");
         QVERIFY(r.titles.contains("Response Completed"));
         QVERIFY(r.titles.contains("ERROR"));
     }

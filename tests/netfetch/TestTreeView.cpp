@@ -66,6 +66,19 @@ private slots:
         QVERIFY(!r.t.state.gblnTreeShown);
     }
 
+    // The tree shows one site: the region switch closes it.
+    void theRegionSwitchClosesTheTree()
+    {
+        TreeWindowRig r;
+        r.geoTreeEntry()->trigger();
+        QVERIFY(r.tree());
+        r.w->findChild<QAction*>("mnuJapan")->trigger();
+        QTRY_VERIFY(!r.tree());
+        QVERIFY(!r.t.state.gblnTreeShown && !r.geoTreeEntry()->isChecked());
+        r.geoTreeEntry()->trigger();
+        QCOMPARE(r.tree()->tvwGeo()->topLevelItem(0)->text(0), QString("GeoCities Japan"));
+    }
+
     void aClickOnANeighborhoodOpensItsBlocksBesideTheTree()
     {
         TreeWindowRig r;
