@@ -1,6 +1,7 @@
 #include "FileGetter.h"
 
 #include "FileGetterHost.h"
+#include "PageText.h"
 #include "UrlList.h"
 #include "browserone/BrowserControl.h"
 #include "browserone/BrowserOne.h"
@@ -158,42 +159,45 @@ void FileGetter::fetchFiles(const QStringList& urls)
     const int count = urls.size();
     const HttpFetch::Limits lim = limits();
     const int ahead = parallel();
-    QVector<int> states(count, 0);
-    int inHand = 0;
-    int next = 0;
+    m_states.fill(0, count);
     m_fetches.clear();
     m_fetches.resize(count);
+    int next = 0;
     for (int i = 0; i < count && !StopFlag; ++i) {
-        inHand = i;
+        m_inHand = i;
         showRound(urls[i], i + 1, count);
+        // Later files are fetched meanwhile; they are written in turn.
+        for (; next < count && next < i + ahead && !StopFlag; ++next)
+            startFetch(next, urls[next], lim);
         if (StopFlag)
             break;
-        // Later files are fetched meanwhile; they are written in turn.
-        for (; next < count && next < i + ahead; ++next) {
-            auto fetch = std::make_unique<HttpFetch>(m_network, urls[next], lim, TargetDir);
-            connect(fetch.get(), &HttpFetch::stateChanged, this,
-                    [this, &states, &inHand, n = next](int state) {
-                        states[n] = state;
-                        if (n == inHand)
-                            form.setText(HttpFetch::stateText(state));
-                    });
-            fetch->start();
-            m_fetches[next] = std::move(fetch);
-        }
-        if (states[i])
-            form.setText(HttpFetch::stateText(states[i]));
+        if (m_states[i])
+            form.setText(HttpFetch::stateText(m_states[i]));
         HttpFetch* fetch = m_fetches[i].get();
         if (!fetch->isDone()) {
             QEventLoop loop;
             connect(fetch, &HttpFetch::finished, &loop, &QEventLoop::quit);
             waitHere(loop);
         }
-        if (StopFlag || m_fetches.empty())
+        if (StopFlag)
             break;
         keepFile(*fetch, urls[i]);
         m_fetches[i].reset();
     }
     m_fetches.clear();
+}
+
+// The title shows the states of the file in hand only.
+void FileGetter::startFetch(int n, const QString& url, const HttpFetch::Limits& lim)
+{
+    auto fetch = std::make_unique<HttpFetch>(m_network, url, lim, TargetDir);
+    connect(fetch.get(), &HttpFetch::stateChanged, this, [this, n](int state) {
+        m_states[n] = state;
+        if (n == m_inHand)
+            form.setText(HttpFetch::stateText(state));
+    });
+    fetch->start();
+    m_fetches[n] = std::move(fetch);
 }
 
 void FileGetter::keepFile(HttpFetch& fetch, const QString& url)
@@ -208,51 +212,46 @@ void FileGetter::keepFile(HttpFetch& fetch, const QString& url)
 
 void FileGetter::fetchPages(const QStringList& urls)
 {
-    const int count = urls.size();
     bool ok = false;
     m_pageWaitLeft =
         m_ctx.GetSetting(Sect::Startup, Key::GetterPageWaitMs, "180000").toLongLong(&ok);
     if (!ok || m_pageWaitLeft <= 0)
         m_pageWaitLeft = 180000;
-    for (int i = 0; i < count && !StopFlag; ++i) {
-        showRound(urls[i], i + 1, count);
+    for (int i = 0; i < urls.size() && !StopFlag; ++i) {
+        showRound(urls[i], i + 1, urls.size());
         PageDone = false;
         m_browser.Navigate(urls[i]);
-        // The wait is shared by all pages of the list: it is not renewed.
-        if (!PageDone && m_pageWaitLeft > 0) {
-            QEventLoop loop;
-            QElapsedTimer waited;
-            waited.start();
-            QTimer limit;
-            limit.setSingleShot(true);
-            connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
-            connect(&m_browser, &BrowserControl::ProgressChange, &loop, [this, &loop] {
-                if (PageDone)
-                    loop.quit();
-            });
-            limit.start(int(qMin<qint64>(m_pageWaitLeft, INT_MAX)));
-            waitHere(loop);
-            m_pageWaitLeft -= waited.elapsed();
-        }
+        waitForPage();
         if (StopFlag)
             break;
         if (!PageDone)
             m_browser.Stop();
         PageDone = false;
-        QString text;
-        bool got = false;
-        QEventLoop loop;
-        m_browser.PageText([&text, &got, &loop](const QString& t) {
-            text = t;
-            got = true;
-            loop.quit();
-        });
-        if (!got)
-            waitHere(loop);
+        const QString text = PageTextOf(m_browser, &m_wait);
         if (StopFlag)
             break;
         savePageText(text);
     }
+}
+
+// The wait is shared by all pages of the list: it is not renewed.
+void FileGetter::waitForPage()
+{
+    if (PageDone || m_pageWaitLeft <= 0)
+        return;
+    QEventLoop loop;
+    QElapsedTimer waited;
+    waited.start();
+    QTimer limit;
+    limit.setSingleShot(true);
+    connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+    connect(&m_browser, &BrowserControl::ProgressChange, &loop, [this, &loop] {
+        if (PageDone)
+            loop.quit();
+    });
+    limit.start(int(qMin<qint64>(m_pageWaitLeft, INT_MAX)));
+    waitHere(loop);
+    m_pageWaitLeft -= waited.elapsed();
 }
 
 void FileGetter::savePageText(const QString& text)

@@ -7,6 +7,7 @@
 #include <QNetworkAccessManager>
 #include <QObject>
 #include <QPointer>
+#include <QVector>
 
 struct AppContext;
 class BrowserControl;
@@ -62,7 +63,9 @@ public:
 
 private:
     void fetchFiles(const QStringList& urls);
+    void startFetch(int n, const QString& url, const HttpFetch::Limits& lim);
     void fetchPages(const QStringList& urls);
+    void waitForPage();
     void showRound(const QString& url, int i, int count);
     void keepFile(HttpFetch& fetch, const QString& url);
     void savePageText(const QString& text);
@@ -77,5 +80,7 @@ private:
     QNetworkAccessManager m_network;
     QPointer<QEventLoop> m_wait;
     std::vector<std::unique_ptr<HttpFetch>> m_fetches;
+    QVector<int> m_states; // the last state of each fetch
+    int m_inHand = 0;      // the file whose round it is
     qint64 m_pageWaitLeft = 0;
 };

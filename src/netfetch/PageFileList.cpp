@@ -1,11 +1,12 @@
 #include "PageFileList.h"
 
+#include "PageText.h"
+
 #include "browserone/BrowserControl.h"
 #include "core/AppContext.h"
 #include "core/FileServices.h"
 #include "core/IniText.h"
 
-#include <QEventLoop>
 #include <QFile>
 
 namespace {
@@ -20,22 +21,6 @@ bool writeLines(const QString& path, const QStringList& lines)
     for (const QString& line : lines)
         bytes += IniText::toWindows1252(line) + "\r\n";
     return file.write(bytes) == bytes.size();
-}
-
-// The page's text, as select all and copy give it.
-QString pageText(BrowserControl& browser)
-{
-    QString text;
-    bool got = false;
-    QEventLoop loop;
-    browser.PageText([&](const QString& t) {
-        text = t;
-        got = true;
-        loop.quit();
-    });
-    if (!got)
-        loop.exec();
-    return text;
 }
 } // namespace
 
@@ -143,7 +128,7 @@ void PageFileList::scanPage(BrowserControl& browser, const QString& base, const 
 
 void PageFileList::scanIndex(BrowserControl& browser, const QString& base, const QString& output)
 {
-    const QString text = pageText(browser);
+    const QString text = PageTextOf(browser);
     if (m_links.copyToClipboard)
         m_links.copyToClipboard(text);
     const QStringList names = indexNames(text, base);
