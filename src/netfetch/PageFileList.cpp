@@ -1,7 +1,6 @@
 #include "PageFileList.h"
 
 #include "PageText.h"
-
 #include "browserone/BrowserControl.h"
 #include "core/AppContext.h"
 #include "core/FileServices.h"
