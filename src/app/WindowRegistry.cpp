@@ -10,6 +10,8 @@
 #include "core/frmAbout.h"
 #include "navigator/NeighborhoodPictures.h"
 #include "navigator/frmGeoCities.h"
+#include "netfetch/FileGetter.h"
+#include "netfetch/NetFetchWindows.h"
 
 WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
 {
@@ -24,11 +26,23 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
         LinkImportUi screen(m_ctx, *this);
         DatabaseAction(m_ctx, 3, &screen);
     });
+    add(
+        ProgramWindow::GeoTree, [this] { netFetchWindows().showTree(); },
+        [this] { netFetchWindows().unloadTree(); });
+    add(ProgramWindow::NetPics, [this] { netFetchWindows().showNetPics(); });
+    add(
+        ProgramWindow::Inetget,
+        [this] { netFetchWindows().frmInetgetCalls(int(InetgetCall::GetList)); },
+        [this] {
+            if (m_netFetch)
+                m_netFetch->unloadGetter();
+        });
 }
 
 // Browser One's windows reach into the main window's rules: they go first.
 WindowRegistry::~WindowRegistry()
 {
+    m_netFetch.reset();
     m_browserOne.reset();
     m_main.reset();
 }
@@ -54,6 +68,38 @@ BrowserOneWindows& WindowRegistry::browserOneWindows()
 {
     main();
     return *m_browserOne;
+}
+
+NetFetchWindows& WindowRegistry::netFetchWindows()
+{
+    main();
+    if (!m_netFetch) {
+        NetFetchWindows::Links links;
+        links.browserWindow = [this](GeoTreeHost::Browser which) -> QWidget* {
+            return which == GeoTreeHost::BrowserOne ? browserOne() : nullptr;
+        };
+        links.showBrowserOne = [this] { ShowBrowserOne(); };
+        links.treeUnloaded = [this] {
+            m_main->navigator().controls().mnuGeoTree.setChecked(false);
+        };
+        links.profile = [this] { return browserOneWindows().profile(); };
+        links.browserControl = [this](int which) -> BrowserControl* {
+            frmWBOne* browser = which == 1 ? browserOne() : nullptr;
+            return browser ? &browser->control() : nullptr;
+        };
+        links.communicatWithNetPic = [this](const QStringList& pages) {
+            ShowBrowserOne();
+            if (frmWBOne* browser = browserOne())
+                browser->rules().CommunicatWithNetPic(pages);
+        };
+        m_netFetch = std::make_unique<NetFetchWindows>(m_ctx, m_main->navigator(), links);
+    }
+    return *m_netFetch;
+}
+
+int WindowRegistry::treeWidthTwips() const
+{
+    return m_netFetch ? m_netFetch->treeWidthTwips() : 0;
 }
 
 frmWBOne* WindowRegistry::browserOne() const

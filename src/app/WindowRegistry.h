@@ -10,6 +10,7 @@
 
 struct AppContext;
 class BrowserOneWindows;
+class NetFetchWindows;
 class frmGeoCities;
 class frmWBOLinks;
 class frmWBOne;
@@ -48,11 +49,13 @@ private:
     };
     void add(ProgramWindow window, std::function<void()> show, std::function<void()> unload = {});
     BrowserOneWindows& browserOneWindows();
+    NetFetchWindows& netFetchWindows();
     // The tree window's width in twips, 0 while it is not open.
-    int treeWidthTwips() const { return 0; }
+    int treeWidthTwips() const;
 
     AppContext& m_ctx;
     std::map<ProgramWindow, Entry> m_windows;
     std::unique_ptr<frmGeoCities> m_main;
     std::unique_ptr<BrowserOneWindows> m_browserOne;
+    std::unique_ptr<NetFetchWindows> m_netFetch;
 };

@@ -2,6 +2,7 @@
 
 #include "LinksPanel.h"
 #include "core/ControlBinder.h"
+#include "core/PlaceWindow.h"
 #include "core/WindowPlace.h"
 #include "navigator/SavedLinks.h"
 
@@ -11,20 +12,6 @@
 #include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
-
-namespace {
-QRect availableScreen()
-{
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
-}
-
-QRect toTwips(const QRect& r)
-{
-    return QRect(pixelsToTwips(r.left()), pixelsToTwips(r.top()), pixelsToTwips(r.width()),
-                 pixelsToTwips(r.height()));
-}
-} // namespace
 
 frmWBOLinks::frmWBOLinks(SavedLinks& links, LinksPanel& rules, QWidget* parent)
     : QWidget(parent, Qt::Tool), m_rules(&rules)
@@ -43,9 +30,10 @@ frmWBOLinks::frmWBOLinks(SavedLinks& links, LinksPanel& rules, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_list);
 
-    const QRect screen = availableScreen();
-    const QRect kept = LinksPanel::KeepOnScreen(toTwips(QRect(pos() - screen.topLeft(), size())),
-                                                toTwips(QRect(QPoint(), screen.size())));
+    const QRect screen = AvailableScreen();
+    const QRect kept =
+        LinksPanel::KeepOnScreen(PixelsToTwips(QRect(pos() - screen.topLeft(), size())),
+                                 PixelsToTwips(QRect(QPoint(), screen.size())));
     move(screen.topLeft() + QPoint(twipsToPixels(kept.left()), twipsToPixels(kept.top())));
 }
 
@@ -96,7 +84,7 @@ void frmWBOLinks::leaveMaximised()
     // The window system restores the normal size later: until then the
     // widget still has the maximised one, so the place comes from before.
     const QRect normal = m_normalPlace.isValid() ? m_normalPlace : QRect(pos(), minimumSize());
-    const QRect screen = availableScreen();
+    const QRect screen = AvailableScreen();
     move(normal.left(), screen.top());
     resize(normal.width(), screen.height() - twipsToPixels(WindowPlace::TaskBarRoom));
 }

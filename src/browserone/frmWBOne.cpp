@@ -24,18 +24,6 @@
 #include <QWebEngineView>
 
 namespace {
-QRect toTwips(const QRect& r)
-{
-    return QRect(pixelsToTwips(r.left()), pixelsToTwips(r.top()), pixelsToTwips(r.width()),
-                 pixelsToTwips(r.height()));
-}
-
-QRect availableScreen()
-{
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
-}
-
 // Whether a key edits the text: one that types a character, by the rule of
 // Qt's own text boxes, Backspace and Delete, and the shortcuts that cut or
 // paste. Arrows, Shift, function keys and Ctrl's other shortcuts do not.
@@ -223,12 +211,12 @@ void frmWBOne::placeWindow(const QString& left, const QString& top, const QStrin
 
 QRect frmWBOne::screenTwips() const
 {
-    return toTwips(availableScreen());
+    return PixelsToTwips(AvailableScreen());
 }
 
 QRect frmWBOne::windowTwips() const
 {
-    return toTwips(QRect(pos(), size()));
+    return PixelsToTwips(QRect(pos(), size()));
 }
 
 void frmWBOne::setWindowOnTop(bool onTop)
@@ -286,7 +274,7 @@ void frmWBOne::VorlanClick()
     if (main->isMinimized())
         main->showNormal();
     main->show();
-    const QRect screen = availableScreen();
+    const QRect screen = AvailableScreen();
     main->move(screen.left() + screen.width() - main->frameGeometry().width(),
                screen.top() + (screen.height() - main->frameGeometry().height()) / 2);
     main->raise();

@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
 #include <QKeyEvent>
@@ -187,6 +188,23 @@ void bind(Control& model, QAction* action)
     QObject::connect(action, &QAction::triggered, &model, [&model, show] {
         model.click();
         show(); // the rules decide the check, not the toggle of the action
+    });
+}
+
+void bind(Control& model, QCheckBox* box)
+{
+    box->setObjectName(model.name());
+    auto show = [&model, box] {
+        const QSignalBlocker block(box);
+        box->setText(model.text());
+        box->setChecked(model.isChecked());
+        showCommon(model, box);
+    };
+    show();
+    QObject::connect(&model, &Control::viewChanged, box, show);
+    QObject::connect(box, &QCheckBox::clicked, &model, [&model](bool checked) {
+        model.setChecked(checked);
+        model.click();
     });
 }
 

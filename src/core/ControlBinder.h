@@ -5,6 +5,7 @@ class ListControl;
 class SliderControl;
 class QAbstractButton;
 class QAction;
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -18,6 +19,8 @@ class QWidget;
 namespace ControlBinder {
 void bind(Control& model, QAbstractButton* button);
 void bind(Control& model, QAction* action);
+// The box's tick is the model's check; a click sets it, then fires Click.
+void bind(Control& model, QCheckBox* box);
 void bind(ListControl& model, QComboBox* combo);
 // A click on an entry of the list is the user's choice of it.
 void bind(ListControl& model, QListWidget* list);

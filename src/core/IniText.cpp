@@ -178,6 +178,22 @@ QString IniText::fromWindows1252(const QByteArray& bytes)
     return text;
 }
 
+QByteArray IniText::toWindows1252(const QString& text)
+{
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        char b = '?';
+        if (c < 0x80 || (c >= 0xA0 && c <= 0xFF))
+            b = static_cast<char>(c);
+        for (int h = 0; h < 32 && b == '?' && c >= 0x80; ++h)
+            if (HighControls[h] == c)
+                b = static_cast<char>(0x80 + h);
+        bytes[i] = b;
+    }
+    return bytes;
+}
+
 bool IniText::read(const QByteArray& bytes, QSettings::SettingsMap& map)
 {
     if (bytes.contains('\0'))

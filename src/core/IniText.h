@@ -22,5 +22,8 @@ bool read(const QByteArray& bytes, QSettings::SettingsMap& map);
 QByteArray write(const QSettings::SettingsMap& map);
 
 QString fromWindows1252(const QByteArray& bytes);
+// The single-byte text of the files the program writes: a character that
+// Windows-1252 lacks becomes "?".
+QByteArray toWindows1252(const QString& text);
 
 } // namespace IniText

@@ -27,3 +27,15 @@ void PlaceWindow(QWidget* window, const SharedState& state, const QString& left,
     if (place.resize)
         window->resize(twipsToPixels(place.width), twipsToPixels(place.height));
 }
+
+QRect AvailableScreen()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+}
+
+QRect PixelsToTwips(const QRect& r)
+{
+    return QRect(pixelsToTwips(r.left()), pixelsToTwips(r.top()), pixelsToTwips(r.width()),
+                 pixelsToTwips(r.height()));
+}

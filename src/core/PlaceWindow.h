@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRect>
 #include <QString>
 
 class QWidget;
@@ -17,3 +18,9 @@ struct SharedState;
 // available area bounds them.
 void PlaceWindow(QWidget* window, const SharedState& state, const QString& left, const QString& top,
                  const QString& height, const QString& width, bool keepSize, int treeWidth);
+
+// The primary screen's available area in pixels; 1024 by 768 without one.
+QRect AvailableScreen();
+
+// A place in pixels as twips.
+QRect PixelsToTwips(const QRect& pixels);

@@ -44,6 +44,12 @@ inline constexpr const char* IGWE_W = "IGWE_W";
 inline constexpr const char* IGWE_H = "IGWE_H";
 inline constexpr const char* IGWE_L = "IGWE_L";
 inline constexpr const char* IGWE_T = "IGWE_T";
+// The file getter's limits: a fetch's stall and size, fetches at once, and
+// the wait for pages, shared by all pages of one list.
+inline constexpr const char* GetterStallMs = "GetterStallMs";
+inline constexpr const char* GetterMaxBytes = "GetterMaxBytes";
+inline constexpr const char* GetterParallel = "GetterParallel";
+inline constexpr const char* GetterPageWaitMs = "GetterPageWaitMs";
 inline constexpr const char* FTP_Top = "FTP_Top";
 inline constexpr const char* FTP_Left = "FTP_Left";
 inline constexpr const char* VBS_Top = "VBS_Top";

@@ -33,6 +33,8 @@ struct SharedState
     bool gblnWBTwoLoaded = false;
     bool gblnCacheLoaded = false;
     bool gblnTreeShown = false;
+    bool gblnWBOneByTree = false; // Browser One was opened by a click in the tree
+    bool GettingFileList = false; // a file list of a page is being made
     bool gblnMainOnTop = false;
     bool gblnWBOneOnTop = false;
     bool gblnLinksPanelOpen = false;

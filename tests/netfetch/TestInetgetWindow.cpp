@@ -1,0 +1,108 @@
+#include "EngineEnvironment.h"
+#include "LocalWebServer.h"
+#include "TestContext.h"
+#include "app/WindowRegistry.h"
+#include "browserone/WebBrowserControl.h"
+#include "navigator/frmGeoCities.h"
+#include "netfetch/frmInetget.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QtTest>
+
+namespace {
+struct GetterWindowRig
+{
+    TestContext t;
+    WindowRegistry windows{t.ctx};
+    frmGeoCities* main = nullptr;
+    LocalWebServer server{[](const QString& url) {
+        return LocalWebServer::Reply{QByteArray(1000, url.endsWith("b.gif") ? 'b' : 'a')};
+    }};
+
+    GetterWindowRig()
+    {
+        t.createAndOpenDatabase();
+        main = windows.main();
+        main->navigator().LoadCatalogue();
+        server.start();
+    }
+    QAction* entry() { return main->findChild<QAction*>("mnuInetGet"); }
+    frmInetget* getter()
+    {
+        for (QWidget* top : QApplication::topLevelWidgets())
+            if (auto* found = qobject_cast<frmInetget*>(top))
+                return found;
+        return nullptr;
+    }
+};
+} // namespace
+
+class TestInetgetWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void noConnectionNoGetter()
+    {
+        GetterWindowRig r;
+        QVERIFY(r.entry()->isEnabled());
+        r.t.probe.up = false;
+        r.entry()->trigger();
+        QCOMPARE(r.t.prompts.messages(), QStringList{"No internet connection!"});
+        QVERIFY(!r.getter() || !r.getter()->isVisible());
+    }
+
+    void theMenuEntryFetchesAList()
+    {
+        GetterWindowRig r;
+        const QString folder = r.t.folders.root() + "/got/";
+        QDir().mkpath(folder);
+        QFile list(folder + "list.txt");
+        QVERIFY(list.open(QIODevice::WriteOnly));
+        list.write((r.server.proxyAddress() + "/p/a.jpg\r\nb.gif\r\n").toLatin1());
+        list.close();
+        r.t.prompts.answerPath(list.fileName());
+        r.entry()->trigger();
+        QVERIFY(QFile::exists(folder + "a.jpg") && QFile::exists(folder + "b.gif"));
+        frmInetget* w = r.getter();
+        QVERIFY(w && !w->isVisible());
+        QCOMPARE(w->findChild<QLabel*>("lblInetFiles")->text(),
+                 r.server.proxyAddress() + "/p/b.gif, 2 of 2");
+        QVERIFY(!r.t.ctx.GetSetting("Startup", "IGWE_W").isEmpty());
+    }
+
+    void theViewerShowsAPage()
+    {
+        GetterWindowRig r;
+        const QString page = r.t.folders.root() + "/view.htm";
+        QFile f(page);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(LocalWebServer::page("Viewed"));
+        f.close();
+        r.t.prompts.answerPath(QString());
+        r.entry()->trigger(); // no list chosen: the window unloads
+        frmInetget* w = r.getter();
+        QVERIFY(w && !w->isVisible());
+        w->Load();
+        w->rules().frmInetgetCalls(InetgetCall::Viewer, page);
+        QVERIFY(w->isVisible());
+        QTRY_COMPARE_WITH_TIMEOUT(w->control().LocationName(), QString("Viewed"), 40000);
+        QTRY_VERIFY(w->windowTitle().endsWith("[Done]"));
+        w->close();
+        QVERIFY(!w->rules().ViewerMode);
+    }
+};
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QApplication app(argc, argv);
+    EngineEnvironment::prepare(QStringLiteral("http://127.0.0.1:9"));
+    TestInetgetWindow test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "TestInetgetWindow.moc"
