@@ -43,7 +43,8 @@ private slots:
         r.addSaved(Tbl::UsaSaved, Existing);
         const QString quote = r.write("geolinks.ini", "\"SoHo\",\"Lofts,\"10\",\"01\",\"Art\"");
         QStringList paths{quote};
-        paths << r.write("geojapan.ini", QByteArray("\"a\",\"b\",\"c\",\"d\",\"e\0\"", 22));
+        const char withNul[] = "\"a\",\"b\",\"c\",\"d\",\"e\0\"";
+        paths << r.write("geojapan.ini", QByteArray(withNul, sizeof withNul - 1));
         // Seven fields on a line and four on the next fit neither layout.
         QDir().mkpath(r.files + "/counts");
         QFile counts(r.files + "/counts/geolinks.ini");
