@@ -1,0 +1,79 @@
+// "--help" and "--version" of the real program, from a shell without a
+// screen: the platform is set to one that does not exist, so the process
+// would fail if it made its application object.
+#include "core/ShellOptions.h"
+
+#include <QProcess>
+#include <QtTest>
+
+namespace {
+struct Run
+{
+    int exitCode = -1;
+    QByteArray out;
+    QByteArray err;
+};
+
+Run runVorlan(const QStringList& arguments)
+{
+    QProcess vorlan;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.remove("DISPLAY");
+    env.remove("WAYLAND_DISPLAY");
+    env.insert("QT_QPA_PLATFORM", "no-such-platform");
+    vorlan.setProcessEnvironment(env);
+    vorlan.start(QStringLiteral(VORLAN_EXECUTABLE), arguments);
+    Run run;
+    if (!vorlan.waitForFinished(30000)) {
+        vorlan.kill();
+        vorlan.waitForFinished();
+        return run;
+    }
+    run.exitCode = vorlan.exitStatus() == QProcess::NormalExit ? vorlan.exitCode() : -1;
+    run.out = vorlan.readAllStandardOutput();
+    run.err = vorlan.readAllStandardError();
+    return run;
+}
+} // namespace
+
+class TestShellOptions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void helpPrintsTheUsageAndEnds()
+    {
+        const Run run = runVorlan({"--help"});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.err, QByteArray());
+        QVERIFY(run.out.startsWith("Usage: vorlan [ADDRESS | /? | --help | --version]\n"));
+        for (const char* option : {"/?", "--help", "--version", "http://", "mailto:"})
+            QVERIFY2(run.out.contains(option), option);
+        QVERIFY(run.out.contains("~/.config/Vorlan/Vorlan 1.0.ini"));
+        QVERIFY(run.out.contains("vorlan(1)"));
+    }
+
+    void versionPrintsTheNameAndVersionAndEnds()
+    {
+        const Run run = runVorlan({"--version"});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.err, QByteArray());
+        QCOMPARE(run.out, QByteArray("Vorlan 1.0\n"));
+    }
+
+    // Like "/?", the options count only alone; "/?" and every other line
+    // go to the entry's own command-line rule.
+    void onlyTheOptionsAloneAreAnswered()
+    {
+        QVERIFY(!ShellOptions::answer({"--help"}).isNull());
+        QVERIFY(!ShellOptions::answer({"--version"}).isNull());
+        for (const QStringList& line :
+             {QStringList{}, QStringList{"/?"}, QStringList{"--help", "http://a.b/"},
+              QStringList{"http://a.b/", "--version"}, QStringList{"--HELP"}, QStringList{"-h"}})
+            QVERIFY2(ShellOptions::answer(line).isNull(), qPrintable(line.join(' ')));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestShellOptions)
+
+#include "TestShellOptions.moc"
