@@ -1,5 +1,6 @@
 #include "Application.h"
 
+#include "DesktopIdentity.h"
 #include "MainStartupUi.h"
 #include "WidgetPrompts.h"
 #include "WindowRegistry.h"
@@ -42,6 +43,7 @@ int RunVorlan(int argc, char* argv[], std::function<void(QWidget*)> shown)
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vorlan"));
+    DesktopIdentity::apply();
     QApplication::setQuitOnLastWindowClosed(false);
 
     // The command line as one text, as the program reads it.
