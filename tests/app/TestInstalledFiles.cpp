@@ -1,40 +1,22 @@
 // The program as installed: "cmake --install" into a temporary prefix, then
 // the desktop's own validators on the desktop entry, the AppStream metadata
 // and the manual page, and the icon's sizes.
+#include "ChildRun.h"
+
 #include <QDir>
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
 const QString AppId = QStringLiteral(VORLAN_APP_ID);
 
-struct Run
+ChildRun run(const QString& program, const QStringList& arguments)
 {
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-Run run(const QString& program, const QStringList& arguments)
-{
-    QProcess p;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("LC_ALL", "C.UTF-8");
     env.insert("MANWIDTH", "80");
-    p.setProcessEnvironment(env);
-    p.start(program, arguments);
-    Run r;
-    if (!p.waitForFinished(120000)) {
-        p.kill();
-        p.waitForFinished();
-        return r;
-    }
-    r.exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
-    r.out = p.readAllStandardOutput();
-    r.err = p.readAllStandardError();
-    return r;
+    return ChildRun::of(program, arguments, env);
 }
 } // namespace
 
@@ -49,14 +31,14 @@ private slots:
     void initTestCase()
     {
         QVERIFY(m_prefix.isValid());
-        const Run install = run(QStringLiteral(CMAKE_COMMAND),
-                                {"--install", VORLAN_BUILD_DIR, "--prefix", m_prefix.path()});
+        const ChildRun install = run(QStringLiteral(CMAKE_COMMAND),
+                                     {"--install", VORLAN_BUILD_DIR, "--prefix", m_prefix.path()});
         QVERIFY2(install.exitCode == 0, install.err.constData());
     }
 
     void theProgramAnswersFromItsInstalledPlace()
     {
-        const Run version = run(path("bin/vorlan"), {"--version"});
+        const ChildRun version = run(path("bin/vorlan"), {"--version"});
         QCOMPARE(version.exitCode, 0);
         QCOMPARE(version.out, QByteArray("Vorlan 1.0\n"));
     }
@@ -64,7 +46,7 @@ private slots:
     void theDesktopEntryIsValidAndOffersToOpenWebAddresses()
     {
         const QString entry = path("share/applications/" + AppId + ".desktop");
-        const Run check = run("desktop-file-validate", {entry});
+        const ChildRun check = run("desktop-file-validate", {entry});
         QVERIFY2(check.exitCode == 0 && check.out.isEmpty(), check.out + check.err);
         // Read as lines: QSettings takes the ";" of a list for a comment.
         QFile file(entry);
@@ -80,7 +62,7 @@ private slots:
     void theAppStreamMetadataIsValidAndNamesTheEntry()
     {
         const QString metainfo = path("share/metainfo/" + AppId + ".metainfo.xml");
-        const Run check = run("appstreamcli", {"validate", "--no-net", metainfo});
+        const ChildRun check = run("appstreamcli", {"validate", "--no-net", metainfo});
         QVERIFY2(check.exitCode == 0, check.out + check.err);
         QFile file(metainfo);
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -92,7 +74,7 @@ private slots:
 
     void theManualPageRendersWithoutWarnings()
     {
-        const Run man = run("man", {"--warnings", "-l", path("share/man/man1/vorlan.1")});
+        const ChildRun man = run("man", {"--warnings", "-l", path("share/man/man1/vorlan.1")});
         QVERIFY2(man.exitCode == 0, man.err.constData());
         QCOMPARE(man.err, QByteArray());
         for (const char* part : {"SYNOPSIS", "OPTIONS", "FILES", "ENVIRONMENT", "--version",

@@ -1,38 +1,19 @@
 // "--help" and "--version" of the real program, from a shell without a
 // screen: the platform is set to one that does not exist, so the process
 // would fail if it made its application object.
+#include "ChildRun.h"
 #include "core/ShellOptions.h"
 
-#include <QProcess>
 #include <QtTest>
 
 namespace {
-struct Run
+ChildRun runVorlan(const QStringList& arguments)
 {
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-Run runVorlan(const QStringList& arguments)
-{
-    QProcess vorlan;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.remove("DISPLAY");
     env.remove("WAYLAND_DISPLAY");
     env.insert("QT_QPA_PLATFORM", "no-such-platform");
-    vorlan.setProcessEnvironment(env);
-    vorlan.start(QStringLiteral(VORLAN_EXECUTABLE), arguments);
-    Run run;
-    if (!vorlan.waitForFinished(30000)) {
-        vorlan.kill();
-        vorlan.waitForFinished();
-        return run;
-    }
-    run.exitCode = vorlan.exitStatus() == QProcess::NormalExit ? vorlan.exitCode() : -1;
-    run.out = vorlan.readAllStandardOutput();
-    run.err = vorlan.readAllStandardError();
-    return run;
+    return ChildRun::of(QStringLiteral(VORLAN_EXECUTABLE), arguments, env);
 }
 } // namespace
 
@@ -43,7 +24,7 @@ class TestShellOptions : public QObject
 private slots:
     void helpPrintsTheUsageAndEnds()
     {
-        const Run run = runVorlan({"--help"});
+        const ChildRun run = runVorlan({"--help"});
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.err, QByteArray());
         QVERIFY(run.out.startsWith("Usage: vorlan [ADDRESS | /? | --help | --version]\n"));
@@ -55,7 +36,7 @@ private slots:
 
     void versionPrintsTheNameAndVersionAndEnds()
     {
-        const Run run = runVorlan({"--version"});
+        const ChildRun run = runVorlan({"--version"});
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.err, QByteArray());
         QCOMPARE(run.out, QByteArray("Vorlan 1.0\n"));
