@@ -7,6 +7,7 @@ VORLAN_PACKAGES=(
     libcurl4-openssl-dev mdbtools-dev mdbtools
     python3-pyftpdlib
     xvfb xauth fonts-dejavu-core fonts-liberation
+    librsvg2-bin desktop-file-utils appstream man-db groff-base dpkg-dev
 )
 
 vorlan_install_deps() {

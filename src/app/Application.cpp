@@ -1,5 +1,6 @@
 #include "Application.h"
 
+#include "DesktopIdentity.h"
 #include "MainStartupUi.h"
 #include "WidgetPrompts.h"
 #include "WindowRegistry.h"
@@ -7,21 +8,42 @@
 #include "addressdata/TextDatabase.h"
 #include "core/AppContext.h"
 #include "core/EntryProcedure.h"
+#include "core/ShellOptions.h"
 #include "navigator/frmGeoCities.h"
 
 #include <QApplication>
 #include <QStandardPaths>
 #include <QTimer>
+#include <cstdio>
 #include <unistd.h>
+
+namespace {
+// "--help" and "--version" answer from a shell without a screen: they are
+// looked at before the application object, which would need one.
+bool answeredFromShell(int argc, char* argv[])
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const QString text = ShellOptions::answer(arguments);
+    if (text.isNull())
+        return false;
+    std::fputs(text.toLocal8Bit().constData(), stdout);
+    return true;
+}
+} // namespace
 
 int RunVorlan(int argc, char* argv[], std::function<void(QWidget*)> shown)
 {
+    if (answeredFromShell(argc, argv))
+        return 0;
     // The browser engine runs as root only without its sandbox.
     if (geteuid() == 0)
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vorlan"));
+    DesktopIdentity::apply();
     QApplication::setQuitOnLastWindowClosed(false);
 
     // The command line as one text, as the program reads it.

@@ -11,6 +11,11 @@ PopUpWindow::PopUpWindow(QWebEngineProfile* profile, std::function<QWebEnginePag
     m_page->newWindow = std::move(newWindow);
     setPage(m_page);
     resize(480, 360);
+    // Until its page has a title of its own.
+    setWindowTitle(QStringLiteral("Vorlan"));
     connect(m_page, &QWebEnginePage::windowCloseRequested, this, &QWidget::close);
-    connect(m_page, &QWebEnginePage::titleChanged, this, &QWidget::setWindowTitle);
+    connect(m_page, &QWebEnginePage::titleChanged, this, [this](const QString& title) {
+        if (!title.isEmpty())
+            setWindowTitle(title);
+    });
 }

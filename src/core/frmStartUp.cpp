@@ -11,6 +11,8 @@ frmStartUp::frmStartUp(SharedState& state, const QPixmap& house)
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint), m_state(state)
 {
     setObjectName(QStringLiteral("frmStartUp"));
+    // No frame shows it, but the task bar and screen readers do.
+    setWindowTitle(QStringLiteral("Vorlan"));
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QStringLiteral("frmStartUp { background: #000060; border: 2px solid #e8b530; }"
