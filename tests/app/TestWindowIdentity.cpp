@@ -79,12 +79,14 @@ private slots:
         windows.browserOne()->linksPanel().SavedClick();
         closeModalSoon();
         QVERIFY(windows.showWindow(ProgramWindow::About));
+        QVERIFY(windows.showWindow(ProgramWindow::GeoTree));
+        QVERIFY(windows.showWindow(ProgramWindow::NetPics));
         QWebEngineProfile profile;
         auto* popUp = new PopUpWindow(&profile, {});
         popUp->show();
 
-        for (const char* window :
-             {"frmStartUp", "frmGeoCities", "frmWBOne", "frmWBOLinks", "frmAbout", "PopUpWindow"})
+        for (const char* window : {"frmStartUp", "frmGeoCities", "frmWBOne", "frmWBOLinks",
+                                   "frmAbout", "PopUpWindow", "frmTreeView", "frmNetPics"})
             QVERIFY2(recorder.shown.contains(window), window);
         for (auto it = recorder.shown.cbegin(); it != recorder.shown.cend(); ++it) {
             QVERIFY2(!it->title.trimmed().isEmpty(), qPrintable(it.key()));
