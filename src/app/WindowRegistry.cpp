@@ -2,7 +2,6 @@
 
 #include "LinkImportUi.h"
 #include "addressdata/MainDatabase.h"
-
 #include "browserone/BrowserOneWindows.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/frmWBOne.h"
