@@ -277,20 +277,6 @@ private slots:
         QVERIFY(!r.t.state.gblnMainOnTop && !r.t.state.gblnWBOneOnTop);
     }
 
-    void theWalkColoursFollowTheMode()
-    {
-        BrowserRig r;
-        r.open();
-        r.window.colours.clear();
-        r.c.mnuAutoNav.click();
-        r.c.mnuRandNav.click();
-        r.c.mnuRandNav.click();
-        QCOMPARE(r.window.colours.first(), Wander::Mode::AutoNav);
-        QVERIFY(r.window.colours.contains(Wander::Mode::RandNav));
-        QCOMPARE(r.window.colours.last(), Wander::Mode::Off);
-        QVERIFY(!r.one->mnuAutoNav.isChecked() && !r.one->mnuRandNav.isChecked());
-    }
-
     void searchHosts()
     {
         QCOMPARE(BrowserOne::SearchHost(0, false), QString("altavista.com"));
