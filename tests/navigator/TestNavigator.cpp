@@ -126,20 +126,6 @@ private slots:
         QCOMPARE(r.t.ctx.GetSetting("Startup", "House Number"), QString("1234"));
     }
 
-    void aRegionSwitchClosesTheTree()
-    {
-        NavigatorRig r;
-        r.host.available << ProgramWindow::GeoTree;
-        r.start();
-        r.c.mnuGeoTree.click();
-        QVERIFY(r.t.state.gblnTreeShown);
-        QVERIFY(r.c.mnuGeoTree.isChecked());
-        r.nav.JapanClick();
-        QVERIFY(r.host.calls.contains("unload GeoTree"));
-        QVERIFY(!r.c.mnuGeoTree.isChecked());
-        QVERIFY(!r.t.state.gblnTreeShown);
-    }
-
     void theLoadClampKeepsTheWindowOnScreen_data()
     {
         QTest::addColumn<QString>("left");

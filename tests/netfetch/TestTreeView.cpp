@@ -54,12 +54,7 @@ private slots:
         r.geoTreeEntry()->trigger();
         QTRY_VERIFY(!r.tree());
         QVERIFY(!r.t.state.gblnTreeShown && !r.geoTreeEntry()->isChecked());
-    }
-
-    // Closing the tree itself gives the menu entry back.
-    void closingTheTreeClearsTheEntry()
-    {
-        TreeWindowRig r;
+        // Closing the tree itself gives the menu entry back.
         r.geoTreeEntry()->trigger();
         r.tree()->close();
         QVERIFY(!r.geoTreeEntry()->isChecked());
