@@ -27,11 +27,8 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(w));
 
         const QString path = t.folders.root() + "/geolinks.ini";
-        QFile f(path);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("\"SoHo\",\"Lofts\",\"10\",\"01\",\"Art\",\"Saved on: A\"\r\n"
-                "\"Area51\",\"\",\"99\",\"99\",\"Aliens\",\"Saved on: B\"\r\n");
-        f.close();
+        QVERIFY(putFile(path, "\"SoHo\",\"Lofts\",\"10\",\"01\",\"Art\",\"Saved on: A\"\r\n"
+                              "\"Area51\",\"\",\"99\",\"99\",\"Aliens\",\"Saved on: B\"\r\n"));
         t.prompts.answerPath(path);
 
         QAction* entry = w->findChild<QAction*>("mnuImportLinks");

@@ -395,9 +395,7 @@ private slots:
     {
         EngineRig r;
         const QString file = r.t.folders.root() + "/untitled.htm";
-        QFile out(file);
-        QVERIFY(out.open(QIODevice::WriteOnly) && out.write(Untitled) > 0);
-        out.close();
+        QVERIFY(putFile(file, Untitled));
         const QStringList addresses = {"geocities.com/untitled/", "geocities.com/", file};
         const QStringList urls = {"http://www.geocities.com/untitled/", "http://www.geocities.com/",
                                   QUrl::fromLocalFile(file).toString()};

@@ -160,10 +160,7 @@ private slots:
     {
         NavigatorRig r;
         const QString page = r.t.folders.root() + "/page.htm";
-        QFile file(page);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<html></html>");
-        file.close();
+        QVERIFY(putFile(page, "<html></html>"));
         r.nav.NavigateSomeWhereElse(page);
         QCOMPARE(r.host.navigated(), QStringList{page});
     }

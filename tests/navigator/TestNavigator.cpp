@@ -282,9 +282,7 @@ private slots:
         const QString file = r.t.settings.filePath(r.t.state.gstrAppName);
         QVERIFY(QFile::remove(file));
         if (damage == "garbage") {
-            QFile junk(file);
-            QVERIFY(junk.open(QIODevice::WriteOnly));
-            junk.write(QByteArray("\x00\x01junk", 6));
+            QVERIFY(putFile(file, QByteArray("\x00\x01junk", 6)));
         } else if (damage == "fifo") {
             QCOMPARE(::mkfifo(QFile::encodeName(file).constData(), 0600), 0);
         } else {

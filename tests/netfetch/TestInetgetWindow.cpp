@@ -60,12 +60,9 @@ private slots:
     {
         GetterWindowRig r;
         const QString folder = r.t.folders.root() + "/got/";
-        QDir().mkpath(folder);
-        QFile list(folder + "list.txt");
-        QVERIFY(list.open(QIODevice::WriteOnly));
-        list.write((r.server.proxyAddress() + "/p/a.jpg\r\nb.gif\r\n").toLatin1());
-        list.close();
-        r.t.prompts.answerPath(list.fileName());
+        QVERIFY(putFile(folder + "list.txt",
+                        (r.server.proxyAddress() + "/p/a.jpg\r\nb.gif\r\n").toLatin1()));
+        r.t.prompts.answerPath(folder + "list.txt");
         r.entry()->trigger();
         QVERIFY(QFile::exists(folder + "a.jpg") && QFile::exists(folder + "b.gif"));
         frmInetget* w = r.getter();
@@ -79,10 +76,7 @@ private slots:
     {
         GetterWindowRig r;
         const QString page = r.t.folders.root() + "/view.htm";
-        QFile f(page);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(LocalWebServer::page("Viewed"));
-        f.close();
+        QVERIFY(putFile(page, LocalWebServer::page("Viewed")));
         r.t.prompts.answerPath(QString());
         r.entry()->trigger(); // no list chosen: the window unloads
         frmInetget* w = r.getter();
