@@ -1,9 +1,7 @@
 // The link import on real widgets: the Navigator's menu entry, the saved
 // links list that shows the new links at once, and the wait notice.
-#include "TestContext.h"
-#include "app/WindowRegistry.h"
+#include "WindowsRig.h"
 #include "cache/frmWait.h"
-#include "navigator/frmGeoCities.h"
 
 #include <QAction>
 #include <QApplication>
@@ -18,11 +16,9 @@ class TestLinkImportWindow : public QObject
 private slots:
     void importLinksFillsTheSavedLinksList()
     {
-        TestContext t;
-        t.createAndOpenDatabase();
-        WindowRegistry windows(t.ctx);
-        frmGeoCities* w = windows.main();
-        w->navigator().LoadCatalogue();
+        WindowsRig r;
+        TestContext& t = r.t;
+        frmGeoCities* w = r.main;
         w->show();
         QVERIFY(QTest::qWaitForWindowExposed(w));
 

@@ -1,8 +1,7 @@
 #include "EngineEnvironment.h"
 #include "LocalWebServer.h"
-#include "TestContext.h"
 #include "WidgetChecks.h"
-#include "app/WindowRegistry.h"
+#include "WindowsRig.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/WebPage.h"
 #include "browserone/frmWBOLinks.h"
@@ -60,18 +59,10 @@ LocalWebServer::Reply answer(const QString& url)
 }
 
 // The program's windows on a new database, with the connection up.
-struct EngineRig
+struct EngineRig : WindowsRig
 {
-    TestContext t;
-    WindowRegistry windows{t.ctx};
-    Navigator* nav = nullptr;
+    Navigator* nav = &main->navigator();
 
-    EngineRig()
-    {
-        t.createAndOpenDatabase();
-        nav = &windows.main()->navigator();
-        nav->LoadCatalogue();
-    }
     ~EngineRig()
     {
         nav->StopAutoModes();

@@ -1,10 +1,8 @@
 #include "EngineEnvironment.h"
 #include "LocalWebServer.h"
-#include "TestContext.h"
 #include "WidgetChecks.h"
-#include "app/WindowRegistry.h"
+#include "WindowsRig.h"
 #include "browserone/frmWBOne.h"
-#include "navigator/frmGeoCities.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -19,21 +17,11 @@
 #include <functional>
 
 namespace {
-struct WindowRig
+struct WindowRig : WindowsRig
 {
-    TestContext t;
-    WindowRegistry windows{t.ctx};
-    frmGeoCities* w = nullptr;
+    frmGeoCities*& w = main;
 
-    // beforeLoad runs on the new database, before the window is made.
-    explicit WindowRig(const std::function<void(AppContext&)>& beforeLoad = {})
-    {
-        t.createAndOpenDatabase();
-        if (beforeLoad)
-            beforeLoad(t.ctx);
-        w = windows.main();
-        w->navigator().LoadCatalogue();
-    }
+    using WindowsRig::WindowsRig;
     void show()
     {
         w->show();

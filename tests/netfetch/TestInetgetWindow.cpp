@@ -1,9 +1,7 @@
 #include "EngineEnvironment.h"
 #include "LocalWebServer.h"
-#include "TestContext.h"
-#include "app/WindowRegistry.h"
+#include "WindowsRig.h"
 #include "browserone/WebBrowserControl.h"
-#include "navigator/frmGeoCities.h"
 #include "netfetch/frmInetget.h"
 
 #include <QAction>
@@ -14,30 +12,15 @@
 #include <QtTest>
 
 namespace {
-struct GetterWindowRig
+struct GetterWindowRig : WindowsRig
 {
-    TestContext t;
-    WindowRegistry windows{t.ctx};
-    frmGeoCities* main = nullptr;
     LocalWebServer server{[](const QString& url) {
         return LocalWebServer::Reply{QByteArray(1000, url.endsWith("b.gif") ? 'b' : 'a')};
     }};
 
-    GetterWindowRig()
-    {
-        t.createAndOpenDatabase();
-        main = windows.main();
-        main->navigator().LoadCatalogue();
-        server.start();
-    }
+    GetterWindowRig() { server.start(); }
     QAction* entry() { return main->findChild<QAction*>("mnuInetGet"); }
-    frmInetget* getter()
-    {
-        for (QWidget* top : QApplication::topLevelWidgets())
-            if (auto* found = qobject_cast<frmInetget*>(top))
-                return found;
-        return nullptr;
-    }
+    frmInetget* getter() { return topLevel<frmInetget>(); }
 };
 } // namespace
 
