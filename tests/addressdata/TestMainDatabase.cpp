@@ -1,9 +1,7 @@
-#include "ScriptedPrompts.h"
-#include "TestFolders.h"
+#include "TestContext.h"
 #include "addressdata/BuiltInCatalogue.h"
 #include "addressdata/MainDatabase.h"
 #include "addressdata/TextDatabase.h"
-#include "core/AppContext.h"
 
 #include <QFile>
 #include <QSqlError>
@@ -12,11 +10,6 @@
 #include <QtTest>
 
 namespace {
-
-struct NoNetwork : ConnectionProbe
-{
-    bool isUp() const override { return false; }
-};
 
 struct Expected
 {
@@ -242,12 +235,11 @@ private slots:
 
     void databaseActionCreatesOnlyForItsCode()
     {
-        SharedState s;
-        SettingsStore settings(folders.config());
-        ScriptedPrompts prompts;
-        NoNetwork probe;
-        TextDatabase main("test-action");
-        AppContext ctx{s, settings, prompts, probe, main, folders.appPath()};
+        TestContext t;
+        t.probe.up = false;
+        SharedState& s = t.state;
+        AppContext& ctx = t.ctx;
+        ScriptedPrompts& prompts = t.prompts;
         prepare(s, "action.db");
         for (int code : {0, 1, 3, 7}) {
             DatabaseAction(ctx, code);
