@@ -105,9 +105,6 @@ private slots:
 
         r.nav.JapanClick();
         QVERIFY(r.t.state.gblnJapan);
-        QVERIFY(r.c.mnuJapan.isChecked());
-        QCOMPARE(r.c.form.text(), QString("Navigate GeoCities Japan"));
-        QCOMPARE(r.c.cmbNeighborhood.listCount(), 14);
         QCOMPARE(r.c.cmbNeighborhood.text(), QString("Milkyway"));
         QCOMPARE(r.t.state.gstrSiteLabel, QString("geocities.co.jp/"));
         r.pickNeighborhood("HeartLand");
@@ -116,7 +113,6 @@ private slots:
 
         r.nav.JapanClick();
         QVERIFY(!r.t.state.gblnJapan);
-        QCOMPARE(r.c.form.text(), QString("Navigate GeoCities USA"));
         QCOMPARE(r.c.txtFullAddress.text(), QString("geocities.com/SoHo/Lofts/1234/"));
         QCOMPARE(r.c.cmbNeighborhood.listCount(), 41);
 
