@@ -1,5 +1,4 @@
-#include "ScriptedPrompts.h"
-#include "TestFolders.h"
+#include "TestContext.h"
 #include "addressdata/CatalogueLoader.h"
 #include "addressdata/MainDatabase.h"
 #include "addressdata/TextDatabase.h"
@@ -10,11 +9,6 @@
 #include <memory>
 
 namespace {
-
-struct NoNetwork : ConnectionProbe
-{
-    bool isUp() const override { return false; }
-};
 
 const QString neighborhoodsWarning = QStringLiteral(
     "Warning!!!\r\rMaximum Neighborhoods\r(99) has been reached!\rNo more will be loaded!\r");
@@ -31,13 +25,7 @@ QString suburbsWarning(const QString& name)
 class TestCatalogueLoader : public QObject
 {
     Q_OBJECT
-    std::unique_ptr<TestFolders> folders;
-    SharedState state;
-    std::unique_ptr<SettingsStore> settings;
-    ScriptedPrompts prompts;
-    NoNetwork probe;
-    std::unique_ptr<TextDatabase> db;
-    std::unique_ptr<AppContext> ctx;
+    std::unique_ptr<TestContext> t;
     int files = 0;
 
     // A file with the region tables of the main database holding just these
@@ -45,17 +33,17 @@ class TestCatalogueLoader : public QObject
     void makeTables(const QStringList& neighborhoods, const QVector<QStringList>& suburbs,
                     bool japan = false)
     {
-        db->close();
-        db->open(folders->data() + QString("/loader%1.db").arg(++files), true);
-        const TableNameArray& t = state.gastrTables;
+        t->db.close();
+        t->db.open(t->folders.data() + QString("/loader%1.db").arg(++files), true);
+        const TableNameArray& names = t->state.gastrTables;
         const int n = japan ? Tbl::JapanNeighborhoods : Tbl::UsaNeighborhoods;
         for (int index : {n, n + 1})
-            db->createTable(t[index][0], FieldNames(t, index));
+            t->db.createTable(names[index][0], FieldNames(names, index));
         QVector<QStringList> rows;
         for (const QString& name : neighborhoods)
             rows.append({name, name + " description"});
-        db->append(t[n][0], FieldNames(t, n), rows);
-        db->append(t[n + 1][0], FieldNames(t, n + 1), suburbs);
+        t->db.append(names[n][0], FieldNames(names, n), rows);
+        t->db.append(names[n + 1][0], FieldNames(names, n + 1), suburbs);
     }
 
     static QStringList numbered(const QString& prefix, int count)
@@ -69,31 +57,20 @@ class TestCatalogueLoader : public QObject
 private slots:
     void init()
     {
-        folders = std::make_unique<TestFolders>();
-        state.reset();
-        BuildTableNames(state.gastrTables);
-        settings = std::make_unique<SettingsStore>(folders->config());
-        prompts.clear();
-        db = std::make_unique<TextDatabase>("test-loader");
-        ctx = std::make_unique<AppContext>(
-            AppContext{state, *settings, prompts, probe, *db, folders->appPath()});
+        t = std::make_unique<TestContext>();
+        t->probe.up = false;
     }
-
-    void cleanup()
-    {
-        ctx.reset();
-        db.reset();
-    }
+    void cleanup() { t.reset(); }
 
     void readsEitherSiteOfANewFile()
     {
-        state.gstrGeoData = folders->data() + "/GeoData.db";
-        CreateMainDatabase(state);
-        CatalogueData& cat = state.catalogue;
+        t->state.gstrGeoData = t->folders.data() + "/GeoData.db";
+        CreateMainDatabase(t->state);
+        CatalogueData& cat = t->state.catalogue;
         cat = CatalogueData();
-        db->open(state.gstrGeoData);
+        t->db.open(t->state.gstrGeoData);
 
-        ReadCatalogue(*ctx, *db);
+        ReadCatalogue(t->ctx, t->db);
         QCOMPARE(cat.gintNeighborhoodCount, qint16(41));
         QCOMPARE(cat.gaintSuburbCount[1], qint16(29));
         QCOMPARE(cat.gaintSuburbCount[31], qint16(40));
@@ -101,8 +78,8 @@ private slots:
         QCOMPARE(cat.gastrDescription[21], QString("Romance, poetry, the arts"));
         QCOMPARE(cat.gintMaxSuburbs, qint16(40));
 
-        state.gblnJapan = true;
-        ReadCatalogue(*ctx, *db);
+        t->state.gblnJapan = true;
+        ReadCatalogue(t->ctx, t->db);
         QCOMPARE(cat.gintNeighborhoodCount, qint16(14));
         QCOMPARE(cat.name(2), QString("MotorCity"));
         QCOMPARE(cat.gaintSuburbCount[2], qint16(0));
@@ -111,17 +88,17 @@ private slots:
         QCOMPARE(cat.gaintSuburbCount.size(), 15);
         // Raised, never lowered: the USA high mark stays.
         QCOMPARE(cat.gintMaxSuburbs, qint16(40));
-        QVERIFY(prompts.shown.isEmpty());
+        QVERIFY(t->prompts.shown.isEmpty());
     }
 
     void takesAtMost99Neighborhoods()
     {
         makeTables(numbered("N", 101), {{"99", "Last"}, {"100", "Beyond"}, {"1", "First"}});
-        ReadCatalogue(*ctx, *db);
-        const CatalogueData& cat = state.catalogue;
-        QCOMPARE(prompts.messages(), QStringList({neighborhoodsWarning}));
-        QCOMPARE(prompts.shown[0].title, QString());
-        QCOMPARE(prompts.shown[0].style, int(PromptService::Information));
+        ReadCatalogue(t->ctx, t->db);
+        const CatalogueData& cat = t->state.catalogue;
+        QCOMPARE(t->prompts.messages(), QStringList({neighborhoodsWarning}));
+        QCOMPARE(t->prompts.shown[0].title, QString());
+        QCOMPARE(t->prompts.shown[0].style, int(PromptService::Information));
         QCOMPARE(cat.gintNeighborhoodCount, qint16(99));
         QCOMPARE(cat.name(99), QString("N99"));
         QCOMPARE(cat.gastrDescription.size(), 100);
@@ -139,11 +116,11 @@ private slots:
         suburbs.append(QStringList{"2", "S77"});
         makeTables({"Quiet", "Crowded"}, suburbs);
         // A reload does not blank the rows: readers go by the counts.
-        state.catalogue.gastrCatalogue[1][74] = "left from before";
+        t->state.catalogue.gastrCatalogue[1][74] = "left from before";
 
-        ReadCatalogue(*ctx, *db);
-        const CatalogueData& cat = state.catalogue;
-        QCOMPARE(prompts.messages(), QStringList(4, suburbsWarning("Crowded")));
+        ReadCatalogue(t->ctx, t->db);
+        const CatalogueData& cat = t->state.catalogue;
+        QCOMPARE(t->prompts.messages(), QStringList(4, suburbsWarning("Crowded")));
         QCOMPARE(cat.gaintSuburbCount[2], qint16(73));
         QCOMPARE(cat.suburb(2, 73), QString("S73"));
         QCOMPARE(cat.suburb(2, 74), QString("left from before"));
@@ -164,9 +141,9 @@ private slots:
                                              {" 2", "blank first"},
                                              {"3x", "trailing text"},
                                              {"2.0", "two point oh"}});
-        ReadCatalogue(*ctx, *db);
-        const CatalogueData& cat = state.catalogue;
-        QVERIFY(prompts.shown.isEmpty());
+        ReadCatalogue(t->ctx, t->db);
+        const CatalogueData& cat = t->state.catalogue;
+        QVERIFY(t->prompts.shown.isEmpty());
         QCOMPARE(cat.gaintSuburbCount[1], qint16(0));
         QCOMPARE(cat.gaintSuburbCount[2], qint16(2));
         QCOMPARE(cat.suburb(2, 1), QString("blank first"));
@@ -177,36 +154,36 @@ private slots:
 
     void fieldsAreTakenByNameWhateverTheirPlace()
     {
-        db->close();
-        db->open(folders->data() + "/reordered.db", true);
-        QSqlQuery other(db->handle());
+        t->db.close();
+        t->db.open(t->folders.data() + "/reordered.db", true);
+        QSqlQuery other(t->db.handle());
         QVERIFY(other.exec("CREATE TABLE UsaNeighborhoods (Added TEXT, Description TEXT, "
                            "Neighborhood TEXT)"));
         QVERIFY(other.exec("INSERT INTO UsaNeighborhoods VALUES ('x', 'Art', 'SoHo')"));
         QVERIFY(other.exec("CREATE TABLE UsaSuburbs (Suburb TEXT, Added TEXT, "
                            "NeighborhoodIndex TEXT)"));
         QVERIFY(other.exec("INSERT INTO UsaSuburbs VALUES ('Lofts', '7', '1')"));
-        ReadCatalogue(*ctx, *db);
-        const CatalogueData& cat = state.catalogue;
+        ReadCatalogue(t->ctx, t->db);
+        const CatalogueData& cat = t->state.catalogue;
         QCOMPARE(cat.name(1), QString("SoHo"));
         QCOMPARE(cat.gastrDescription[1], QString("Art"));
         QCOMPARE(cat.gaintSuburbCount[1], qint16(1));
         QCOMPARE(cat.suburb(1, 1), QString("Lofts"));
 
         QVERIFY(other.exec("ALTER TABLE UsaSuburbs DROP COLUMN Suburb"));
-        QVERIFY_THROWS_EXCEPTION(DbError, ReadCatalogue(*ctx, *db));
+        QVERIFY_THROWS_EXCEPTION(DbError, ReadCatalogue(t->ctx, t->db));
     }
 
     void missingOrEmptyTablesAreErrors()
     {
         makeTables({}, {});
-        QVERIFY_THROWS_EXCEPTION(DbError, ReadCatalogue(*ctx, *db));
+        QVERIFY_THROWS_EXCEPTION(DbError, ReadCatalogue(t->ctx, t->db));
         makeTables({"Only"}, {}, true);
-        QVERIFY_THROWS_EXCEPTION(DbError, ReadCatalogue(*ctx, *db));
-        state.gblnJapan = true;
-        ReadCatalogue(*ctx, *db);
-        QCOMPARE(state.catalogue.name(1), QString("Only"));
-        QCOMPARE(state.catalogue.gaintSuburbCount[1], qint16(0));
+        QVERIFY_THROWS_EXCEPTION(DbError, ReadCatalogue(t->ctx, t->db));
+        t->state.gblnJapan = true;
+        ReadCatalogue(t->ctx, t->db);
+        QCOMPARE(t->state.catalogue.name(1), QString("Only"));
+        QCOMPARE(t->state.catalogue.gaintSuburbCount[1], qint16(0));
     }
 };
 

@@ -46,12 +46,10 @@ private slots:
         const char withNul[] = "\"a\",\"b\",\"c\",\"d\",\"e\0\"";
         paths << r.write("geojapan.ini", QByteArray(withNul, sizeof withNul - 1));
         // Seven fields on a line and four on the next fit neither layout.
-        QDir().mkpath(r.files + "/counts");
-        QFile counts(r.files + "/counts/geolinks.ini");
-        QVERIFY(counts.open(QIODevice::WriteOnly));
-        counts.write("\"1\",\"2\",\"3\",\"4\",\"5\",\"6\",\"7\"\r\n\"1\",\"2\",\"3\",\"4\"\r\n");
-        counts.close();
-        paths << counts.fileName();
+        paths << r.files + "/counts/geolinks.ini";
+        QVERIFY(
+            putFile(paths.last(),
+                    "\"1\",\"2\",\"3\",\"4\",\"5\",\"6\",\"7\"\r\n\"1\",\"2\",\"3\",\"4\"\r\n"));
         // Far larger than any links file: refused before it is read.
         QDir().mkpath(r.files + "/big");
         QFile big(r.files + "/big/geolinks.ini");
@@ -74,12 +72,8 @@ private slots:
         const QByteArray sound = oneLinkDatabase().build();
         QStringList paths;
         auto variant = [&](const QString& folder, const QByteArray& bytes) {
-            QDir().mkpath(r.files + "/" + folder);
-            const QString path = r.files + "/" + folder + "/geodata.mdb";
-            QFile f(path);
-            f.open(QIODevice::WriteOnly);
-            f.write(bytes);
-            paths << path;
+            paths << r.files + "/" + folder + "/geodata.mdb";
+            QVERIFY(putFile(paths.last(), bytes));
         };
         variant("half-page", sound.left(sound.size() - 100));
         // Cut at a page: the last table's records are gone.
@@ -93,9 +87,8 @@ private slots:
         variant("encoded", encoded.build());
         variant("header", QByteArray("\0\1\0\0Standard Jet DB", 19) + QByteArray(100, 'x'));
         // This program's own file, cut short.
-        QFile own(r.t.state.gstrGeoData);
-        QVERIFY(own.open(QIODevice::ReadOnly));
-        variant("sqlite", own.read(own.size() / 2));
+        const QByteArray own = fileBytes(r.t.state.gstrGeoData);
+        variant("sqlite", own.left(own.size() / 2));
 
         for (const QString& p : paths)
             r.run({p});

@@ -1,9 +1,7 @@
-#include "ScriptedPrompts.h"
-#include "TestFolders.h"
+#include "TestContext.h"
 #include "addressdata/BuiltInCatalogue.h"
 #include "addressdata/MainDatabase.h"
 #include "addressdata/TextDatabase.h"
-#include "core/AppContext.h"
 
 #include <QFile>
 #include <QSqlError>
@@ -12,11 +10,6 @@
 #include <QtTest>
 
 namespace {
-
-struct NoNetwork : ConnectionProbe
-{
-    bool isUp() const override { return false; }
-};
 
 struct Expected
 {
@@ -71,13 +64,6 @@ class TestMainDatabase : public QObject
         s.gstrGeoData = folders.data() + "/" + file;
     }
 
-    static void writeFile(const QString& path, const QByteArray& bytes)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(bytes);
-    }
-
     // Statements run on the file, as another tool would.
     static void alter(const QString& path, const QStringList& statements)
     {
@@ -87,13 +73,6 @@ class TestMainDatabase : public QObject
             QSqlQuery query(db.handle());
             QVERIFY2(query.exec(sql), qPrintable(query.lastError().text()));
         }
-    }
-
-    static QByteArray readFile(const QString& path)
-    {
-        QFile file(path);
-        file.open(QIODevice::ReadOnly);
-        return file.readAll();
     }
 
     void checkSite(const Expected* site, int count, const QVector<TextRecord>& names,
@@ -243,9 +222,9 @@ private slots:
     {
         SharedState s;
         prepare(s, "existing.db");
-        writeFile(s.gstrGeoData, "keep me");
+        QVERIFY(putFile(s.gstrGeoData, "keep me"));
         QVERIFY_THROWS_EXCEPTION(DbError, CreateMainDatabase(s));
-        QCOMPARE(readFile(s.gstrGeoData), QByteArray("keep me"));
+        QCOMPARE(fileBytes(s.gstrGeoData), QByteArray("keep me"));
 
         // Without the table names nothing can be made, and no usable file is left.
         SharedState bare;
@@ -256,12 +235,11 @@ private slots:
 
     void databaseActionCreatesOnlyForItsCode()
     {
-        SharedState s;
-        SettingsStore settings(folders.config());
-        ScriptedPrompts prompts;
-        NoNetwork probe;
-        TextDatabase main("test-action");
-        AppContext ctx{s, settings, prompts, probe, main, folders.appPath()};
+        TestContext t;
+        t.probe.up = false;
+        SharedState& s = t.state;
+        AppContext& ctx = t.ctx;
+        ScriptedPrompts& prompts = t.prompts;
         prepare(s, "action.db");
         for (int code : {0, 1, 3, 7}) {
             DatabaseAction(ctx, code);
@@ -281,19 +259,19 @@ private slots:
         const QString good = state.gstrGeoData;
         const TableNameArray& t = state.gastrTables;
         QVERIFY(VerifyMainDatabase(good, t));
-        const QByteArray whole = readFile(good);
+        const QByteArray whole = fileBytes(good);
         const QString bad = folders.data() + "/bad.db";
 
         QVERIFY(!VerifyMainDatabase(folders.data() + "/absent.db", t));
-        writeFile(bad, QByteArray());
+        QVERIFY(putFile(bad, QByteArray()));
         QVERIFY(!VerifyMainDatabase(bad, t));
-        writeFile(bad, QByteArray(whole.size(), 'g'));
+        QVERIFY(putFile(bad, QByteArray(whole.size(), 'g')));
         QVERIFY(!VerifyMainDatabase(bad, t));
-        writeFile(bad, whole.left(whole.size() / 2));
+        QVERIFY(putFile(bad, whole.left(whole.size() / 2)));
         QVERIFY(!VerifyMainDatabase(bad, t));
 
         // A sound file that lacks one table, the last one read.
-        writeFile(bad, whole);
+        QVERIFY(putFile(bad, whole));
         {
             TextDatabase db("test-drop");
             db.open(bad);
@@ -304,7 +282,7 @@ private slots:
         QVERIFY(!QSqlDatabase::contains("test-drop"));
 
         // A saved-links table without its Comment field.
-        writeFile(bad, whole);
+        QVERIFY(putFile(bad, whole));
         alter(bad, {"ALTER TABLE UsaSaved DROP COLUMN Comment"});
         QVERIFY(!VerifyMainDatabase(bad, t));
         QCOMPARE(QSqlDatabase::connectionNames().size(), 0);
@@ -313,7 +291,7 @@ private slots:
     void whatAnotherToolMayAddIsNoDamage()
     {
         const QString other = folders.data() + "/other.db";
-        writeFile(other, readFile(state.gstrGeoData));
+        QVERIFY(putFile(other, fileBytes(state.gstrGeoData)));
         // A column of its own, and a note longer than the program would store.
         alter(other, {"ALTER TABLE UsaSaved ADD COLUMN Rating TEXT",
                       "PRAGMA ignore_check_constraints = ON",

@@ -14,13 +14,6 @@ class TestTextDatabase : public QObject
     const QString conn = QStringLiteral("test-text");
     const QStringList fields = {"a", "b"};
 
-    static void writeFile(const QString& path, const QByteArray& bytes)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(bytes);
-    }
-
     // A database large enough that its tables span many pages.
     static QByteArray sizeableDatabase(const QString& path)
     {
@@ -33,9 +26,7 @@ class TestTextDatabase : public QObject
                 rows.append({QString::number(i), QString(200, QLatin1Char('x'))});
             db.append("Words", {"word", "note"}, rows);
         }
-        QFile file(path);
-        file.open(QIODevice::ReadOnly);
-        return file.readAll();
+        return fileBytes(path);
     }
 
 private slots:
@@ -144,9 +135,7 @@ private slots:
             db.append("Pairs", fields, {{"a", "b"}});
         }
         ::umask(before);
-        struct stat st;
-        QCOMPARE(::stat(QFile::encodeName(path).constData(), &st), 0);
-        QCOMPARE(st.st_mode & 0777, 0600u);
+        QCOMPARE(modeOf(path), 0600u);
     }
 
     void aFailedWriteStoresNothing()
@@ -215,17 +204,17 @@ private slots:
             c = static_cast<char>(QRandomGenerator::global()->generate());
         switch (kind) {
         case 1:
-            writeFile(path, QByteArray());
+            QVERIFY(putFile(path, QByteArray()));
             break;
         case 2:
-            writeFile(path, garbage);
+            QVERIFY(putFile(path, garbage));
             break;
         case 3:
-            writeFile(path, "Neighborhood,Suburb\r\nArea51,Nebula\r\n");
+            QVERIFY(putFile(path, "Neighborhood,Suburb\r\nArea51,Nebula\r\n"));
             break;
         case 4: {
             const QByteArray whole = sizeableDatabase(f.data() + "/whole.db");
-            writeFile(path, whole.left(whole.size() / 2));
+            QVERIFY(putFile(path, whole.left(whole.size() / 2)));
             break;
         }
         case 5:
@@ -234,7 +223,7 @@ private slots:
         case 6: {
             QByteArray whole = sizeableDatabase(f.data() + "/whole.db");
             whole.replace(whole.size() / 4, garbage.size(), garbage);
-            writeFile(path, whole);
+            QVERIFY(putFile(path, whole));
             break;
         }
         }

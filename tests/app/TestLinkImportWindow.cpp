@@ -1,9 +1,7 @@
 // The link import on real widgets: the Navigator's menu entry, the saved
 // links list that shows the new links at once, and the wait notice.
-#include "TestContext.h"
-#include "app/WindowRegistry.h"
+#include "WindowsRig.h"
 #include "cache/frmWait.h"
-#include "navigator/frmGeoCities.h"
 
 #include <QAction>
 #include <QApplication>
@@ -18,20 +16,15 @@ class TestLinkImportWindow : public QObject
 private slots:
     void importLinksFillsTheSavedLinksList()
     {
-        TestContext t;
-        t.createAndOpenDatabase();
-        WindowRegistry windows(t.ctx);
-        frmGeoCities* w = windows.main();
-        w->navigator().LoadCatalogue();
+        WindowsRig r;
+        TestContext& t = r.t;
+        frmGeoCities* w = r.main;
         w->show();
         QVERIFY(QTest::qWaitForWindowExposed(w));
 
         const QString path = t.folders.root() + "/geolinks.ini";
-        QFile f(path);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("\"SoHo\",\"Lofts\",\"10\",\"01\",\"Art\",\"Saved on: A\"\r\n"
-                "\"Area51\",\"\",\"99\",\"99\",\"Aliens\",\"Saved on: B\"\r\n");
-        f.close();
+        QVERIFY(putFile(path, "\"SoHo\",\"Lofts\",\"10\",\"01\",\"Art\",\"Saved on: A\"\r\n"
+                              "\"Area51\",\"\",\"99\",\"99\",\"Aliens\",\"Saved on: B\"\r\n"));
         t.prompts.answerPath(path);
 
         QAction* entry = w->findChild<QAction*>("mnuImportLinks");

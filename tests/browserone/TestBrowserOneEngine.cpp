@@ -1,8 +1,7 @@
 #include "EngineEnvironment.h"
 #include "LocalWebServer.h"
-#include "TestContext.h"
 #include "WidgetChecks.h"
-#include "app/WindowRegistry.h"
+#include "WindowsRig.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/WebPage.h"
 #include "browserone/frmWBOLinks.h"
@@ -60,18 +59,10 @@ LocalWebServer::Reply answer(const QString& url)
 }
 
 // The program's windows on a new database, with the connection up.
-struct EngineRig
+struct EngineRig : WindowsRig
 {
-    TestContext t;
-    WindowRegistry windows{t.ctx};
-    Navigator* nav = nullptr;
+    Navigator* nav = &main->navigator();
 
-    EngineRig()
-    {
-        t.createAndOpenDatabase();
-        nav = &windows.main()->navigator();
-        nav->LoadCatalogue();
-    }
     ~EngineRig()
     {
         nav->StopAutoModes();
@@ -198,24 +189,6 @@ private slots:
                                      "http://www.geocities.com/Area51/1001/  [Gallery]",
                                  20000);
         r.nav->archiveMenu().mnuPagesOriginal.click();
-    }
-
-    void theHoverMenuHasEveryEntry()
-    {
-        EngineRig r;
-        r.windows.ShowBrowserOne();
-        QMenu* menu = r.windows.browserOne()->mnuCopy();
-        QStringList names;
-        for (QAction* a : menu->actions())
-            names << (a->menu() ? a->menu()->objectName() : a->objectName());
-        QCOMPARE(names, (QStringList{"mnuWB1Stop", "mnuNext", "mnuBack", "mnuAutoNav", "mnuRandNav",
-                                     "mnuVorlan", "mnuSaved", "mnuXtras", "mnuSearch", "mnuExit"}));
-        QStringList xtras;
-        for (QAction* a : r.windows.browserOne()->findChild<QMenu*>("mnuXtras")->actions())
-            xtras << a->text();
-        QCOMPARE(xtras, (QStringList{"AddFavorite", "Get File List", "SaveAs", "Copy URL", "Reduce",
-                                     "On Top"}));
-        QCOMPARE(r.windows.browserOne()->findChild<QMenu*>("mnuSearch")->actions().size(), 7);
     }
 
     void aScreenReaderCanNameEveryControl()
@@ -413,9 +386,7 @@ private slots:
     {
         EngineRig r;
         const QString file = r.t.folders.root() + "/untitled.htm";
-        QFile out(file);
-        QVERIFY(out.open(QIODevice::WriteOnly) && out.write(Untitled) > 0);
-        out.close();
+        QVERIFY(putFile(file, Untitled));
         const QStringList addresses = {"geocities.com/untitled/", "geocities.com/", file};
         const QStringList urls = {"http://www.geocities.com/untitled/", "http://www.geocities.com/",
                                   QUrl::fromLocalFile(file).toString()};

@@ -50,9 +50,7 @@ private slots:
         QVERIFY(
             Favorites::AddFavorite(file, "http://www.geocities.com/SoHo/1000/", "Art & <Poetry>"));
         QVERIFY(Favorites::AddFavorite(file, "http://www.geocities.com/Paris/2000/", ""));
-        QFile in(file);
-        QVERIFY(in.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(in.readAll());
+        const QString text = QString::fromUtf8(fileBytes(file));
         QVERIFY(text.startsWith("<!DOCTYPE NETSCAPE-Bookmark-file-1>"));
         QCOMPARE(text.count("<DT><A HREF="), 2);
         QVERIFY(text.contains("HREF=\"http://www.geocities.com/SoHo/1000/\""));

@@ -1,8 +1,8 @@
 #include "ScriptedPrompts.h"
+#include "TestFolders.h"
 #include "core/BuildFilter.h"
 
 #include <QDir>
-#include <QFile>
 #include <QtTest>
 
 class TestBuildFilter : public QObject
@@ -10,14 +10,6 @@ class TestBuildFilter : public QObject
     Q_OBJECT
     QTemporaryDir dir;
     QString outDir;
-
-    QString makeFile(const QString& name)
-    {
-        QFile f(dir.path() + '/' + name);
-        if (!f.open(QIODevice::WriteOnly))
-            return QString();
-        return f.fileName();
-    }
 
 private slots:
     void initTestCase()
@@ -82,8 +74,8 @@ private slots:
 
     void theResultIsAnExistingFileOrEmpty()
     {
-        const QString words = makeFile("words.txt");
-        QVERIFY(!words.isEmpty());
+        const QString words = dir.path() + "/words.txt";
+        QVERIFY(putFile(words));
         ScriptedPrompts prompts;
         prompts.answerPath(words);
         QCOMPARE(BuildFilter(prompts, outDir, dir.path(), "txt", "mdb"), words);

@@ -15,7 +15,6 @@
 #include <QThread>
 #include <QtTest>
 #include <memory>
-#include <sys/stat.h>
 
 namespace {
 
@@ -66,19 +65,6 @@ struct Start
     QString data() const { return t.folders.appPath() + "GeoData.db"; }
     QString backup() const { return t.folders.appPath() + "GeoBckUp.db"; }
 };
-
-QByteArray readAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void writeAll(const QString& path, const QByteArray& bytes)
-{
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(bytes);
-}
 
 // A database with one saved link, so that its origin can be told.
 void addMarkerLink(const QString& path)
@@ -133,7 +119,7 @@ private slots:
         QCOMPARE(s.ui.splash, (QStringList{"    Creating Database...", "    Loading Data..."}));
         QVERIFY(s.ui.mainShown);
         QVERIFY(QFileInfo(s.data()).isFile());
-        QCOMPARE(readAll(s.backup()), readAll(s.data()));
+        QCOMPARE(fileBytes(s.backup()), fileBytes(s.data()));
         QCOMPARE(s.t.ctx.GetSetting("Startup", "AdvOptInit"), QString("1"));
         QCOMPARE(s.t.ctx.GetSetting("Startup", "Path"), s.t.folders.appPath());
         QCOMPARE(s.t.ctx.GetSetting("AdvOpt", "DefaultSN"), QString("This is a CooL Site!"));
@@ -186,15 +172,15 @@ private slots:
         firstStart(s);
         addMarkerLink(s.backup());
         if (damage == "truncate") {
-            const QByteArray bytes = readAll(s.data());
-            writeAll(s.data(), bytes.left(bytes.size() / 2));
+            const QByteArray bytes = fileBytes(s.data());
+            QVERIFY(putFile(s.data(), bytes.left(bytes.size() / 2)));
         } else if (damage.startsWith("DROP ") || damage.startsWith("ALTER ")) {
             TextDatabase db("drop");
             db.open(s.data());
             QVERIFY(db.handle().exec(damage).lastError().type() == QSqlError::NoError);
             db.close();
         } else {
-            writeAll(s.data(), damage);
+            QVERIFY(putFile(s.data(), damage));
         }
         QVERIFY(s.run());
         QVERIFY(s.t.prompts.shown.isEmpty());
@@ -207,7 +193,7 @@ private slots:
         Start s;
         firstStart(s);
         QFile::remove(s.backup());
-        writeAll(s.data(), "garbage");
+        QVERIFY(putFile(s.data(), "garbage"));
         s.t.prompts.answer(PromptService::No);
         QVERIFY(!s.run());
         QCOMPARE(s.t.prompts.shown.size(), 1);
@@ -218,7 +204,7 @@ private slots:
                          "& recreate it! All saved\rdata will be lost!\rPROCEED?\r"));
         QCOMPARE(asked.style & 7, int(PromptService::YesNo));
         // No leaves the files as they are, and the same question comes back.
-        QCOMPARE(readAll(s.data()), QByteArray("garbage"));
+        QCOMPARE(fileBytes(s.data()), QByteArray("garbage"));
         QVERIFY(!QFile::exists(s.backup()));
         QVERIFY(!s.ui.mainShown);
 
@@ -228,18 +214,18 @@ private slots:
         QCOMPARE(s.t.prompts.shown.size(), 1);
         QVERIFY(s.ui.mainShown);
         QVERIFY(VerifyMainDatabase(s.data(), s.t.state.gastrTables));
-        QCOMPARE(readAll(s.backup()), readAll(s.data()));
+        QCOMPARE(fileBytes(s.backup()), fileBytes(s.data()));
     }
 
     void aBadBackupIsOverwrittenOnlyOnYes()
     {
         Start s;
         firstStart(s);
-        writeAll(s.data(), "garbage");
-        writeAll(s.backup(), "bad backup");
+        QVERIFY(putFile(s.data(), "garbage"));
+        QVERIFY(putFile(s.backup(), "bad backup"));
         s.t.prompts.answer(PromptService::No);
         QVERIFY(!s.run());
-        QCOMPARE(readAll(s.backup()), QByteArray("bad backup"));
+        QCOMPARE(fileBytes(s.backup()), QByteArray("bad backup"));
         s.t.prompts.answer(PromptService::Yes);
         QVERIFY(s.run());
         QVERIFY(VerifyMainDatabase(s.backup(), s.t.state.gastrTables));
@@ -259,12 +245,12 @@ private slots:
         addMarkerLink(restoring ? s.backup() : s.data());
         if (restoring) {
             makeLarge(s.backup());
-            writeAll(s.data(), "garbage");
+            QVERIFY(putFile(s.data(), "garbage"));
         } else {
             makeLarge(s.data());
         }
-        const QByteArray data = readAll(s.data());
-        const QByteArray backup = readAll(s.backup());
+        const QByteArray data = fileBytes(s.data());
+        const QByteArray backup = fileBytes(s.backup());
         {
             const FileSizeLimit diskNearlyFull(1 << 20);
             QVERIFY(!s.run());
@@ -275,8 +261,8 @@ private slots:
         QVERIFY(s.t.prompts.shown[0].text.contains("(File too large)"));
         QVERIFY(!s.ui.mainShown);
         QVERIFY(!s.t.db.isOpen());
-        QCOMPARE(readAll(s.data()), data);
-        QCOMPARE(readAll(s.backup()), backup);
+        QCOMPARE(fileBytes(s.data()), data);
+        QCOMPARE(fileBytes(s.backup()), backup);
         QCOMPARE(QDir(s.t.folders.appPath()).entryList(QDir::Files | QDir::Hidden).size(), 2);
         QCOMPARE(s.t.ctx.GetSetting("Startup", "AdvOptInit"), QString("1"));
 
@@ -292,8 +278,8 @@ private slots:
         Start s;
         firstStart(s);
         addMarkerLink(s.backup());
-        writeAll(s.data(), "garbage");
-        const QByteArray backup = readAll(s.backup());
+        QVERIFY(putFile(s.data(), "garbage"));
+        const QByteArray backup = fileBytes(s.backup());
         {
             const ReadOnlyFolder locked(s.t.folders.appPath());
             if (!locked.refusesFiles())
@@ -303,8 +289,8 @@ private slots:
         }
         QCOMPARE(s.t.prompts.shown.size(), 1);
         QCOMPARE(s.t.prompts.shown[0].title, QString("Database Copy Failed!"));
-        QCOMPARE(readAll(s.data()), QByteArray("garbage"));
-        QCOMPARE(readAll(s.backup()), backup);
+        QCOMPARE(fileBytes(s.data()), QByteArray("garbage"));
+        QCOMPARE(fileBytes(s.backup()), backup);
     }
 
     void readOnlyFilesDoNotBlockTheStart()
@@ -317,11 +303,8 @@ private slots:
         QFile::setPermissions(s.backup(), readOnly);
         QVERIFY(s.run());
         // Writable again, and the owner's alone: they hold saved addresses and notes.
-        for (const QString& file : {s.data(), s.backup()}) {
-            struct stat st;
-            QCOMPARE(::stat(QFile::encodeName(file).constData(), &st), 0);
-            QCOMPARE(st.st_mode & 0777, 0600u);
-        }
+        QCOMPARE(modeOf(s.data()), 0600u);
+        QCOMPARE(modeOf(s.backup()), 0600u);
     }
 
     void aLongNoteFromElsewhereKeepsTheFile()
@@ -347,14 +330,14 @@ private slots:
         Start s;
         firstStart(s);
         addMarkerLink(s.data());
-        writeAll(s.t.settings.filePath("Vorlan 1.0"), QByteArray("\x01\x02\x00junk", 7));
+        QVERIFY(putFile(s.t.settings.filePath("Vorlan 1.0"), QByteArray("\x01\x02\x00junk", 7)));
         QVERIFY(!s.run());
         QCOMPARE(
             s.t.prompts.messages(),
             QStringList{"A settings error was encountered!\rYou will need to restart Vorlan!"});
         QVERIFY(!QFile::exists(s.t.settings.filePath("Vorlan 1.0")));
         // What was in it is kept beside it.
-        QCOMPARE(readAll(s.t.settings.filePath("Vorlan 1.0") + ".bak"),
+        QCOMPARE(fileBytes(s.t.settings.filePath("Vorlan 1.0") + ".bak"),
                  QByteArray("\x01\x02\x00junk", 7));
         QVERIFY(hasMarkerLink(s.data())); // the data stays
         // The next start is a first use again, on the same data.
@@ -368,9 +351,9 @@ private slots:
         Start s;
         firstStart(s);
         // Single-byte text with names in any case, as other tools write it.
-        writeAll(s.t.settings.filePath("Vorlan 1.0"),
-                 "[StartUp]\r\nADVOPTINIT=1\r\nPath=" + s.t.folders.appPath().toLatin1() +
-                     "\r\nNeigh=Paris\r\n[FTP]\r\nGeoCities Password=p\xe4ss\r\n");
+        QVERIFY(putFile(s.t.settings.filePath("Vorlan 1.0"),
+                        "[StartUp]\r\nADVOPTINIT=1\r\nPath=" + s.t.folders.appPath().toLatin1() +
+                            "\r\nNeigh=Paris\r\n[FTP]\r\nGeoCities Password=p\xe4ss\r\n"));
         QVERIFY(s.run());
         QVERIFY(s.t.prompts.shown.isEmpty());
         QCOMPARE(s.ui.navigator->controls().cmbNeighborhood.text(), QString("Paris"));
@@ -460,7 +443,7 @@ private slots:
         Start s;
         if (line == "shortcut") {
             line = s.t.folders.root() + "/Home Page.URL";
-            writeAll(line, "[InternetShortcut]\r\nURL=http://www.geocities.com/\r\n");
+            QVERIFY(putFile(line, "[InternetShortcut]\r\nURL=http://www.geocities.com/\r\n"));
         }
         s.ui.prevInstance = true;
         QVERIFY(!s.run(line));

@@ -7,20 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QtTest>
-#include <sys/stat.h>
-
-static void touch(const QString& path, const QByteArray& content = "x")
-{
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(content);
-}
-
-static QByteArray contents(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 
 class TestFileServices : public QObject
 {
@@ -33,12 +19,12 @@ private slots:
         QTemporaryDir dir;
         const QString wished = dir.path() + "/page.htm";
         QCOMPARE(UniqueFileName(wished), wished);
-        touch(wished);
+        QVERIFY(putFile(wished));
         QCOMPARE(UniqueFileName(wished), dir.path() + "/page1.htm");
-        touch(dir.path() + "/page1.htm");
+        QVERIFY(putFile(dir.path() + "/page1.htm"));
         QCOMPARE(UniqueFileName(wished), dir.path() + "/page2.htm");
         // A free gap is taken, not the number after the highest.
-        touch(dir.path() + "/page3.htm");
+        QVERIFY(putFile(dir.path() + "/page3.htm"));
         QCOMPARE(UniqueFileName(wished), dir.path() + "/page2.htm");
     }
 
@@ -46,21 +32,21 @@ private slots:
     {
         QTemporaryDir dir;
         const QString noDot = dir.path() + "/list";
-        touch(noDot);
+        QVERIFY(putFile(noDot));
         QCOMPARE(UniqueFileName(noDot), noDot + "1");
 
         const QString twoDots = dir.path() + "/page.tar.gz";
-        touch(twoDots);
+        QVERIFY(putFile(twoDots));
         QCOMPARE(UniqueFileName(twoDots), dir.path() + "/page1.tar.gz");
 
         // Only the file name is split: a dot in a folder name, as in the data
         // folder under ~/.local, stays where it is.
         QVERIFY(QDir(dir.path()).mkpath(".local/share/Vorlan"));
         const QString inDotted = dir.path() + "/.local/share/Vorlan/page.htm";
-        touch(inDotted);
+        QVERIFY(putFile(inDotted));
         QCOMPARE(UniqueFileName(inDotted), dir.path() + "/.local/share/Vorlan/page1.htm");
         const QString dottedNoExtension = dir.path() + "/.local/share/Vorlan/list";
-        touch(dottedNoExtension);
+        QVERIFY(putFile(dottedNoExtension));
         QCOMPARE(UniqueFileName(dottedNoExtension), dottedNoExtension + "1");
     }
 
@@ -76,24 +62,22 @@ private slots:
         QTemporaryDir dir;
         const QString from = dir.path() + "/big.db";
         const QString to = dir.path() + "/target.db";
-        touch(from, QByteArray(3 << 20, 'b'));
-        touch(to, "old and sound");
+        QVERIFY(putFile(from, QByteArray(3 << 20, 'b')));
+        QVERIFY(putFile(to, "old and sound"));
         {
             const FileSizeLimit nearlyFull(1 << 20);
             QCOMPARE(ReplaceByCopy(from, to), QString("File too large"));
         }
-        QCOMPARE(contents(to), QByteArray("old and sound"));
+        QCOMPARE(fileBytes(to), QByteArray("old and sound"));
         QVERIFY(!ReplaceByCopy(dir.path() + "/absent.db", to).isEmpty());
-        QCOMPARE(contents(to), QByteArray("old and sound"));
+        QCOMPARE(fileBytes(to), QByteArray("old and sound"));
         // Nothing half-made is left beside it.
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden),
                  QStringList({"big.db", "target.db"}));
 
         QCOMPARE(ReplaceByCopy(from, to), QString());
-        QCOMPARE(contents(to), contents(from));
-        struct stat st;
-        QCOMPARE(::stat(QFile::encodeName(to).constData(), &st), 0);
-        QCOMPARE(st.st_mode & 0777, 0600u);
+        QCOMPARE(fileBytes(to), fileBytes(from));
+        QCOMPARE(modeOf(to), 0600u);
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
     }
 
@@ -143,7 +127,7 @@ private slots:
         QVERIFY(QDir(out).removeRecursively());
         QCOMPARE(OutputDirectory(s, app, f.appPath()), f.appPath());
 
-        touch(f.root() + "/afile");
+        QVERIFY(putFile(f.root() + "/afile"));
         s.SaveSetting(app, Sect::CacheManager, Key::DefaultOutPutDir, f.root() + "/afile");
         QCOMPARE(OutputDirectory(s, app, f.appPath()), f.appPath());
     }
@@ -162,19 +146,13 @@ private slots:
         QTemporaryDir dir;
         const QString file = dir.path() + "/words.txt";
         QVERIFY(!FileReadable(file));
-        touch(file, "one\r\ntwo\r\n");
+        QVERIFY(putFile(file, "one\r\ntwo\r\n"));
         QVERIFY(FileReadable(file));
-        touch(dir.path() + "/empty.txt", "");
+        QVERIFY(putFile(dir.path() + "/empty.txt", ""));
         QVERIFY(FileReadable(dir.path() + "/empty.txt"));
         QVERIFY(!FileReadable(dir.path()));
         QVERIFY(!FileReadable(""));
-    }
-
-    void aFileWithoutReadRightIsNotReadable()
-    {
-        QTemporaryDir dir;
-        const QString file = dir.path() + "/words.txt";
-        touch(file);
+        // Without the right to read it.
         QVERIFY(QFile::setPermissions(file, QFileDevice::WriteOwner));
         QFile probe(file);
         if (probe.open(QIODevice::ReadOnly))

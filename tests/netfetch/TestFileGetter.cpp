@@ -134,11 +134,8 @@ struct GetterRig : NavigatorRig
     // Writes the list and runs it as the menu entry does, the list chosen.
     void run(const QStringList& lines)
     {
-        QFile list(folder + "urls.txt");
-        QVERIFY(list.open(QIODevice::WriteOnly));
-        list.write(lines.join("\r\n").toLatin1());
-        list.close();
-        t.prompts.answerPath(list.fileName());
+        QVERIFY(putFile(folder + "urls.txt", lines.join("\r\n").toLatin1()));
+        t.prompts.answerPath(folder + "urls.txt");
         getter->frmInetgetCalls(InetgetCall::GetList);
     }
     QStringList files() const
@@ -149,8 +146,7 @@ struct GetterRig : NavigatorRig
     }
     QByteArray content(const QString& name) const
     {
-        QFile f(folder + name);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
+        return QFile::exists(folder + name) ? fileBytes(folder + name) : "<missing>";
     }
 };
 } // namespace

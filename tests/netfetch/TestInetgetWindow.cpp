@@ -1,9 +1,7 @@
 #include "EngineEnvironment.h"
 #include "LocalWebServer.h"
-#include "TestContext.h"
-#include "app/WindowRegistry.h"
+#include "WindowsRig.h"
 #include "browserone/WebBrowserControl.h"
-#include "navigator/frmGeoCities.h"
 #include "netfetch/frmInetget.h"
 
 #include <QAction>
@@ -14,30 +12,15 @@
 #include <QtTest>
 
 namespace {
-struct GetterWindowRig
+struct GetterWindowRig : WindowsRig
 {
-    TestContext t;
-    WindowRegistry windows{t.ctx};
-    frmGeoCities* main = nullptr;
     LocalWebServer server{[](const QString& url) {
         return LocalWebServer::Reply{QByteArray(1000, url.endsWith("b.gif") ? 'b' : 'a')};
     }};
 
-    GetterWindowRig()
-    {
-        t.createAndOpenDatabase();
-        main = windows.main();
-        main->navigator().LoadCatalogue();
-        server.start();
-    }
+    GetterWindowRig() { server.start(); }
     QAction* entry() { return main->findChild<QAction*>("mnuInetGet"); }
-    frmInetget* getter()
-    {
-        for (QWidget* top : QApplication::topLevelWidgets())
-            if (auto* found = qobject_cast<frmInetget*>(top))
-                return found;
-        return nullptr;
-    }
+    frmInetget* getter() { return topLevel<frmInetget>(); }
 };
 } // namespace
 
@@ -60,12 +43,9 @@ private slots:
     {
         GetterWindowRig r;
         const QString folder = r.t.folders.root() + "/got/";
-        QDir().mkpath(folder);
-        QFile list(folder + "list.txt");
-        QVERIFY(list.open(QIODevice::WriteOnly));
-        list.write((r.server.proxyAddress() + "/p/a.jpg\r\nb.gif\r\n").toLatin1());
-        list.close();
-        r.t.prompts.answerPath(list.fileName());
+        QVERIFY(putFile(folder + "list.txt",
+                        (r.server.proxyAddress() + "/p/a.jpg\r\nb.gif\r\n").toLatin1()));
+        r.t.prompts.answerPath(folder + "list.txt");
         r.entry()->trigger();
         QVERIFY(QFile::exists(folder + "a.jpg") && QFile::exists(folder + "b.gif"));
         frmInetget* w = r.getter();
@@ -79,10 +59,7 @@ private slots:
     {
         GetterWindowRig r;
         const QString page = r.t.folders.root() + "/view.htm";
-        QFile f(page);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(LocalWebServer::page("Viewed"));
-        f.close();
+        QVERIFY(putFile(page, LocalWebServer::page("Viewed")));
         r.t.prompts.answerPath(QString());
         r.entry()->trigger(); // no list chosen: the window unloads
         frmInetget* w = r.getter();

@@ -1,9 +1,7 @@
 #include "EngineEnvironment.h"
-#include "TestContext.h"
-#include "app/WindowRegistry.h"
+#include "WindowsRig.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/frmWBOne.h"
-#include "navigator/frmGeoCities.h"
 #include "netfetch/frmNetPics.h"
 
 #include <QAction>
@@ -24,19 +22,12 @@ private slots:
     // pages through them in Browser One, whose engine loads them.
     void picturePagesThroughTheWindow()
     {
-        TestContext t;
-        QDir().mkpath(t.ctx.appPath);
-        WindowRegistry windows(t.ctx);
-        t.createAndOpenDatabase();
-        frmGeoCities* main = windows.main();
-        main->navigator().LoadCatalogue();
-        QAction* entry = main->findChild<QAction*>("mnuNetPic");
+        WindowsRig r;
+        TestContext& t = r.t;
+        QAction* entry = r.main->findChild<QAction*>("mnuNetPic");
         QVERIFY(entry->isEnabled());
         entry->trigger();
-        frmNetPics* w = nullptr;
-        for (QWidget* top : QApplication::topLevelWidgets())
-            if (auto* found = qobject_cast<frmNetPics*>(top))
-                w = found;
+        frmNetPics* w = WindowsRig::topLevel<frmNetPics>();
         QVERIFY(w);
         QVERIFY(QTest::qWaitForWindowExposed(w));
         QCOMPARE(w->windowTitle(), QString("Photos from Internet sites"));
@@ -55,7 +46,7 @@ private slots:
         QTest::mouseClick(w->findChild<QPushButton*>("cmdStart"), Qt::LeftButton);
         QVERIFY(t.prompts.messages().isEmpty());
         QTRY_VERIFY(!w->isVisible() || w->isHidden());
-        frmWBOne* browser = windows.browserOne();
+        frmWBOne* browser = r.windows.browserOne();
         QVERIFY(browser);
         QSignalSpy loads(browser->WBOne(), &QWebEngineView::loadFinished);
         QTRY_COMPARE_WITH_TIMEOUT(browser->control().LocationName(), QString("NetPic"), 40000);

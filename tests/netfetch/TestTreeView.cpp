@@ -1,8 +1,6 @@
 #include "EngineEnvironment.h"
-#include "TestContext.h"
-#include "app/WindowRegistry.h"
+#include "WindowsRig.h"
 #include "browserone/frmWBOne.h"
-#include "navigator/frmGeoCities.h"
 #include "netfetch/frmTreeView.h"
 
 #include <QAction>
@@ -13,26 +11,10 @@
 #include <QtTest>
 
 namespace {
-struct TreeWindowRig
+struct TreeWindowRig : WindowsRig
 {
-    TestContext t;
-    WindowRegistry windows{t.ctx};
-    frmGeoCities* w = nullptr;
-
-    TreeWindowRig()
-    {
-        t.createAndOpenDatabase();
-        w = windows.main();
-        w->navigator().LoadCatalogue();
-    }
-    QAction* geoTreeEntry() { return w->findChild<QAction*>("mnuGeoTree"); }
-    frmTreeView* tree()
-    {
-        for (QWidget* top : QApplication::topLevelWidgets())
-            if (auto* found = qobject_cast<frmTreeView*>(top); found && found->isVisible())
-                return found;
-        return nullptr;
-    }
+    QAction* geoTreeEntry() { return main->findChild<QAction*>("mnuGeoTree"); }
+    frmTreeView* tree() { return topLevel<frmTreeView>(true); }
 };
 } // namespace
 
@@ -54,12 +36,7 @@ private slots:
         r.geoTreeEntry()->trigger();
         QTRY_VERIFY(!r.tree());
         QVERIFY(!r.t.state.gblnTreeShown && !r.geoTreeEntry()->isChecked());
-    }
-
-    // Closing the tree itself gives the menu entry back.
-    void closingTheTreeClearsTheEntry()
-    {
-        TreeWindowRig r;
+        // Closing the tree itself gives the menu entry back.
         r.geoTreeEntry()->trigger();
         r.tree()->close();
         QVERIFY(!r.geoTreeEntry()->isChecked());
@@ -72,7 +49,7 @@ private slots:
         TreeWindowRig r;
         r.geoTreeEntry()->trigger();
         QVERIFY(r.tree());
-        r.w->findChild<QAction*>("mnuJapan")->trigger();
+        r.main->findChild<QAction*>("mnuJapan")->trigger();
         QTRY_VERIFY(!r.tree());
         QVERIFY(!r.t.state.gblnTreeShown && !r.geoTreeEntry()->isChecked());
         r.geoTreeEntry()->trigger();

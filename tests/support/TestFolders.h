@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -20,3 +21,10 @@ public:
 private:
     QTemporaryDir m_dir;
 };
+
+// The bytes of a file, empty when it cannot be read.
+QByteArray fileBytes(const QString& path);
+// Writes a whole file, its folder made first; false when it cannot.
+bool putFile(const QString& path, const QByteArray& bytes = QByteArray());
+// The permission bits of a file, 0 when it is not there.
+unsigned modeOf(const QString& path);
