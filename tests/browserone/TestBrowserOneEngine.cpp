@@ -191,6 +191,24 @@ private slots:
         r.nav->archiveMenu().mnuPagesOriginal.click();
     }
 
+    void theHoverMenuHasEveryEntry()
+    {
+        EngineRig r;
+        r.windows.ShowBrowserOne();
+        QMenu* menu = r.windows.browserOne()->mnuCopy();
+        QStringList names;
+        for (QAction* a : menu->actions())
+            names << (a->menu() ? a->menu()->objectName() : a->objectName());
+        QCOMPARE(names, (QStringList{"mnuWB1Stop", "mnuNext", "mnuBack", "mnuAutoNav", "mnuRandNav",
+                                     "mnuVorlan", "mnuSaved", "mnuXtras", "mnuSearch", "mnuExit"}));
+        QStringList xtras;
+        for (QAction* a : r.windows.browserOne()->findChild<QMenu*>("mnuXtras")->actions())
+            xtras << a->text();
+        QCOMPARE(xtras, (QStringList{"AddFavorite", "Get File List", "SaveAs", "Copy URL", "Reduce",
+                                     "On Top"}));
+        QCOMPARE(r.windows.browserOne()->findChild<QMenu*>("mnuSearch")->actions().size(), 7);
+    }
+
     void aScreenReaderCanNameEveryControl()
     {
         EngineRig r;

@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
@@ -17,6 +18,15 @@
 #include <functional>
 
 namespace {
+// The captions of a menu's entries, submenus as "caption>" and separators as "-".
+QStringList entries(const QMenu* menu)
+{
+    QStringList list;
+    for (QAction* a : menu->actions())
+        list << (a->isSeparator() ? QString("-") : a->text() + (a->menu() ? ">" : ""));
+    return list;
+}
+
 struct WindowRig : WindowsRig
 {
     frmGeoCities*& w = main;
@@ -34,6 +44,7 @@ struct WindowRig : WindowsRig
             qWarning("no %s", qPrintable(name));
         return found;
     }
+    QMenu* menu(const QString& name) { return find<QMenu>(name); }
     // Chooses an entry of a list as the user does.
     void choose(const QString& combo, const QString& text)
     {
@@ -54,6 +65,33 @@ class TestGeoCitiesWindow : public QObject
     Q_OBJECT
 
 private slots:
+    void theMenusStandInTheirOrder()
+    {
+        WindowRig r;
+        QStringList bar;
+        for (QAction* a : r.w->menuBar()->actions())
+            bar << a->text();
+        QCOMPARE(bar, (QStringList{"&File", "&Tools", "Xtras", "&Help"}));
+        QCOMPARE(entries(r.menu("mnuFile")),
+                 (QStringList{"Sto&p>", "&GeoTree", "Go&Japan", "-", "&Import Links",
+                              "&Export Links", "-", "E&xit"}));
+        QCOMPARE(entries(r.menu("mnuStop")), (QStringList{"&AutoNav", "&RandNav"}));
+        QCOMPARE(
+            entries(r.menu("mnuSettings")),
+            (QStringList{"Keep OnTo&p", "Publish Files", "Vorlan &Options", "Open pages from>"}));
+        QCOMPARE(entries(r.menu("mnuPagesFrom")),
+                 (QStringList{"Original addresses", "Internet Archive", "GeoCities gallery",
+                              "OoCities mirror", "Local mirror", "-", "Archive year...", "-",
+                              "Walk only captured pages", "Refresh capture index"}));
+        QCOMPARE(entries(r.menu("mnuXtras")),
+                 (QStringList{"&Web Browser Two", "IE&Cache Manager", "Create a web Page",
+                              "Load Pictures from file list", "Download files from file list"}));
+        QCOMPARE(entries(r.menu("mnuHelp")), (QStringList{"Vorlan>", "GeoCities>", "&About"}));
+        QCOMPARE(entries(r.menu("mnuVorlan")), (QStringList{"Help", "Home"}));
+        QCOMPARE(entries(r.menu("mnuGeoCitesmain")),
+                 (QStringList{"GeoCities", "GeoSearch", "GeoChat"}));
+    }
+
     void theControlsShowTheComposedAddress()
     {
         WindowRig r;
