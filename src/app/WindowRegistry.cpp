@@ -11,6 +11,7 @@
 #include "navigator/frmGeoCities.h"
 #include "netfetch/FileGetter.h"
 #include "netfetch/NetFetchWindows.h"
+#include "publishing/PublishingWindows.h"
 
 WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
 {
@@ -36,11 +37,18 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
             if (m_netFetch)
                 m_netFetch->unloadGetter();
         });
+    add(
+        ProgramWindow::Export, [this] { publishingWindows().showExport(); },
+        [this] {
+            if (m_publishing)
+                m_publishing->unloadExport();
+        });
 }
 
 // Browser One's windows reach into the main window's rules: they go first.
 WindowRegistry::~WindowRegistry()
 {
+    m_publishing.reset();
     m_netFetch.reset();
     m_browserOne.reset();
     m_main.reset();
@@ -94,6 +102,16 @@ NetFetchWindows& WindowRegistry::netFetchWindows()
         m_netFetch = std::make_unique<NetFetchWindows>(m_ctx, m_main->navigator(), links);
     }
     return *m_netFetch;
+}
+
+PublishingWindows& WindowRegistry::publishingWindows()
+{
+    main();
+    if (!m_publishing)
+        m_publishing = std::make_unique<PublishingWindows>(m_ctx, [this](const QString& path) {
+            m_main->navigator().NavigateSomeWhereElse(path);
+        });
+    return *m_publishing;
 }
 
 int WindowRegistry::treeWidthTwips() const

@@ -11,6 +11,7 @@
 struct AppContext;
 class BrowserOneWindows;
 class NetFetchWindows;
+class PublishingWindows;
 class frmGeoCities;
 class frmWBOLinks;
 class frmWBOne;
@@ -50,6 +51,7 @@ private:
     void add(ProgramWindow window, std::function<void()> show, std::function<void()> unload = {});
     BrowserOneWindows& browserOneWindows();
     NetFetchWindows& netFetchWindows();
+    PublishingWindows& publishingWindows();
     // The tree window's width in twips, 0 while it is not open.
     int treeWidthTwips() const;
 
@@ -58,4 +60,5 @@ private:
     std::unique_ptr<frmGeoCities> m_main;
     std::unique_ptr<BrowserOneWindows> m_browserOne;
     std::unique_ptr<NetFetchWindows> m_netFetch;
+    std::unique_ptr<PublishingWindows> m_publishing;
 };
