@@ -43,6 +43,12 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
             if (m_publishing)
                 m_publishing->unloadExport();
         });
+    add(
+        ProgramWindow::GeoFtp, [this] { publishingWindows().showGeoFtp(); },
+        [this] {
+            if (m_publishing)
+                m_publishing->unloadGeoFtp();
+        });
 }
 
 // Browser One's windows reach into the main window's rules: they go first.

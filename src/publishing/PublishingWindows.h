@@ -6,6 +6,7 @@
 
 struct AppContext;
 class frmExport;
+class frmGeoFtp;
 
 // The publishing tools' windows as the program wires them in, each made on
 // first use. The program's registry makes this and reaches them through it.
@@ -19,9 +20,13 @@ public:
     void showExport();
     frmExport* exportDialog() const;
     void unloadExport();
+    void showGeoFtp();
+    frmGeoFtp* geoFtp() const;
+    void unloadGeoFtp();
 
 private:
     AppContext& m_ctx;
     std::function<void(const QString&)> m_openPage;
     QPointer<frmExport> m_export;
+    QPointer<frmGeoFtp> m_geoFtp;
 };
