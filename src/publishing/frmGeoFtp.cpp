@@ -18,6 +18,15 @@ namespace {
 
 constexpr int TwipsPerPixel = 15;
 
+// The wheel passing over the host box would change the host unseen: the
+// box takes no wheel, as the program's other lists.
+class NoWheel : public QObject
+{
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::Wheel; }
+};
+
 QLineEdit* textBox(Control& model, QLabel* label, QWidget* parent)
 {
     auto* edit = new QLineEdit(parent);
@@ -103,6 +112,7 @@ void frmGeoFtp::bindHost(QComboBox* combo)
     combo->setObjectName(model.name());
     combo->setEditable(true);
     combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->installEventFilter(new NoWheel(combo));
     combo->addItems(model.items());
     auto show = [&model, combo] {
         const QSignalBlocker block(combo);

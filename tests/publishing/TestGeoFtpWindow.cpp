@@ -41,6 +41,11 @@ private slots:
         QCOMPARE(host->count(), 3);
         QCOMPARE(host->currentText(), QString("ftp.geocities.com"));
 
+        QWheelEvent wheel(QPointF(5, 5), host->mapToGlobal(QPointF(5, 5)), QPoint(),
+                          QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(host, &wheel);
+        QCOMPARE(host->currentText(), QString("ftp.geocities.com"));
+
         const QString typed = QString("127.0.0.1:%1").arg(server.port());
         host->lineEdit()->selectAll();
         QTest::keyClicks(host->lineEdit(), typed);
