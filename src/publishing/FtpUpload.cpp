@@ -37,18 +37,14 @@ bool FtpUpload::put(const QString& localPath, const QString& remoteName, bool as
 {
     auto* curl = static_cast<CURL*>(m_curl);
     QFile file(localPath);
-    if (!curl || !file.open(QIODevice::ReadOnly)) {
-        m_error = curl ? file.errorString() : QStringLiteral("The FTP library could not start.");
+    if (!curl || !file.open(QIODevice::ReadOnly))
         return false;
-    }
     // The login's folder is the target: a relative name, percent-encoded.
     const QByteArray url = "ftp://" + QUrl::toAce(m_target.host) +
                            (m_target.port > 0 ? ":" + QByteArray::number(m_target.port) : "") +
                            "/" + QUrl::toPercentEncoding(remoteName);
     const QByteArray user = m_target.userId.toUtf8();
     const QByteArray password = m_target.password.toUtf8();
-    const QByteArray caFile = QFile::encodeName(m_target.caFile);
-    char errors[CURL_ERROR_SIZE] = {};
     curl_easy_setopt(curl, CURLOPT_URL, url.constData());
     curl_easy_setopt(curl, CURLOPT_USERNAME, user.constData());
     curl_easy_setopt(curl, CURLOPT_PASSWORD, password.constData());
@@ -58,24 +54,15 @@ bool FtpUpload::put(const QString& localPath, const QString& remoteName, bool as
     curl_easy_setopt(curl, CURLOPT_INFILESIZE_LARGE, curl_off_t(file.size()));
     curl_easy_setopt(curl, CURLOPT_TRANSFERTEXT, ascii ? 1L : 0L);
     curl_easy_setopt(curl, CURLOPT_USE_SSL, long(CURLUSESSL_TRY));
-    if (!caFile.isEmpty())
-        curl_easy_setopt(curl, CURLOPT_CAINFO, caFile.constData());
     curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT, long(m_target.connectSeconds));
     curl_easy_setopt(curl, CURLOPT_SERVER_RESPONSE_TIMEOUT, long(m_target.responseSeconds));
     // A transfer that stalls is given up like a silent server.
     curl_easy_setopt(curl, CURLOPT_LOW_SPEED_LIMIT, 1L);
     curl_easy_setopt(curl, CURLOPT_LOW_SPEED_TIME, long(m_target.responseSeconds));
     curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
-    curl_easy_setopt(curl, CURLOPT_ERRORBUFFER, errors);
     const CURLcode result = curl_easy_perform(curl);
-    curl_easy_setopt(curl, CURLOPT_ERRORBUFFER, nullptr);
     curl_easy_setopt(curl, CURLOPT_READDATA, nullptr);
-    if (result == CURLE_OK) {
-        m_error.clear();
-        return true;
-    }
-    m_error = QString::fromUtf8(errors[0] ? errors : curl_easy_strerror(result));
-    return false;
+    return result == CURLE_OK;
 }
 
 bool FtpUpload::splitHost(const QString& text, QString* host, int* port)

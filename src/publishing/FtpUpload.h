@@ -11,7 +11,6 @@ struct FtpTarget
     QString password;
     int connectSeconds = 20;
     int responseSeconds = 30; // also the longest stall of a transfer
-    QString caFile;           // a certificate file to trust besides the system's
 };
 
 // Files sent to one FTP server over one login, each under a bare name in the
@@ -26,9 +25,8 @@ public:
     FtpUpload& operator=(const FtpUpload&) = delete;
 
     // ascii: the server is told the file is text (TYPE A), else binary.
+    // False when the file could not be read or the server refused it.
     bool put(const QString& localPath, const QString& remoteName, bool ascii);
-    // Why the last put failed, in the library's words; never the password.
-    QString lastError() const { return m_error; }
 
     // "host" or "host:port" as typed; false when the port is not a number.
     static bool splitHost(const QString& text, QString* host, int* port);
@@ -36,5 +34,4 @@ public:
 private:
     FtpTarget m_target;
     void* m_curl = nullptr;
-    QString m_error;
 };

@@ -1,6 +1,7 @@
 #include "LocalFtpServer.h"
 #include "TestContext.h"
 #include "core/SettingsKeys.h"
+#include "publishing/FtpUpload.h"
 #include "publishing/GeoFtp.h"
 
 #include <QDir>
@@ -184,6 +185,23 @@ private slots:
         QCOMPARE(r.ftp->cboFTPHost.text(), QString("ftp.xoom.com"));
         QCOMPARE(r.ftp->txtFTPPassword.text(), QString("pw"));
         QCOMPARE(r.ftp->txtFilesToSend[2]->text(), r.files + "a.htm");
+    }
+
+    // A typed host with or without its port.
+    void typedHosts()
+    {
+        QString host;
+        int port = -1;
+        QVERIFY(FtpUpload::splitHost(" ftp.example.org ", &host, &port));
+        QCOMPARE(host, QString("ftp.example.org"));
+        QCOMPARE(port, 0);
+        QVERIFY(FtpUpload::splitHost("127.0.0.1:2121", &host, &port));
+        QCOMPARE(host, QString("127.0.0.1"));
+        QCOMPARE(port, 2121);
+        QVERIFY(!FtpUpload::splitHost("host:ftp", &host, &port));
+        QVERIFY(!FtpUpload::splitHost("host:70000", &host, &port));
+        QVERIFY(!FtpUpload::splitHost(":21", &host, &port));
+        QVERIFY(!FtpUpload::splitHost("", &host, &port));
     }
 };
 
