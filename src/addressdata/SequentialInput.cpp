@@ -1,6 +1,6 @@
 #include "SequentialInput.h"
 
-#include "core/IniText.h"
+#include "core/SingleByteText.h"
 
 #include <QStringDecoder>
 
@@ -50,7 +50,7 @@ QString SequentialInput::decode(const QByteArray& bytes)
     const QString text = utf8(bytes);
     if (!utf8.hasError())
         return text;
-    return IniText::fromWindows1252(bytes);
+    return SingleByteText::decode(bytes);
 }
 
 bool SequentialInput::readFields(const QByteArray& bytes, QStringList& fields)

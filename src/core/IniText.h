@@ -21,9 +21,4 @@ bool read(const QByteArray& bytes, QSettings::SettingsMap& map);
 // The entries of map by section, each value a text.
 QByteArray write(const QSettings::SettingsMap& map);
 
-QString fromWindows1252(const QByteArray& bytes);
-// The single-byte text of the files the program writes: a character that
-// Windows-1252 lacks becomes "?".
-QByteArray toWindows1252(const QString& text);
-
 } // namespace IniText

@@ -8,8 +8,8 @@
 #include "core/AppContext.h"
 #include "core/BuildFilter.h"
 #include "core/FileServices.h"
-#include "core/IniText.h"
 #include "core/SettingsKeys.h"
+#include "core/SingleByteText.h"
 #include "navigator/MainWindowCalls.h"
 #include "navigator/NavigatorControls.h"
 
@@ -262,7 +262,7 @@ void FileGetter::savePageText(const QString& text)
     lines.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
     QSaveFile file(UniqueFileName(TargetDir + QStringLiteral("Page.txt")));
     if (file.open(QIODevice::WriteOnly)) {
-        file.write(IniText::toWindows1252(lines));
+        file.write(SingleByteText::encode(lines));
         file.commit();
     }
 }
@@ -285,5 +285,5 @@ QString FileGetter::InvisibleInetUsage(const QString& url)
     fetch.start();
     if (!fetch.isDone())
         loop.exec();
-    return fetch.ok() ? IniText::fromWindows1252(fetch.body()) : QString();
+    return fetch.ok() ? SingleByteText::decode(fetch.body()) : QString();
 }

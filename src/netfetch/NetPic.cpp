@@ -5,8 +5,8 @@
 #include "core/AppContext.h"
 #include "core/BuildFilter.h"
 #include "core/FileServices.h"
-#include "core/IniText.h"
 #include "core/SettingsKeys.h"
+#include "core/SingleByteText.h"
 #include "core/VbRuntime.h"
 #include "navigator/MainWindowCalls.h"
 
@@ -321,7 +321,7 @@ QString NetPic::writeNumberedList()
         const QString tail = QLatin1Char('.') + txtSuf.text();
         const QString line = chkNumberOnLeft.isChecked() ? digits + txtPref.text() + tail
                                                          : txtPref.text() + digits + tail;
-        lines += IniText::toWindows1252(line) + "\r\n";
+        lines += SingleByteText::lines({line});
     }
     QFile file(tempListPath());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(lines) != lines.size())

@@ -2,7 +2,8 @@
 
 #include "core/Endpoints.h"
 #include "core/FileServices.h"
-#include "core/IniText.h"
+#include "core/PageHead.h"
+#include "core/SingleByteText.h"
 
 #include <QFile>
 #include <QTextStream>
@@ -15,12 +16,6 @@ QString quoted(const QString& text)
     return Quote + text + Quote;
 }
 
-QString meta(const QString& name, const QString& value)
-{
-    return QStringLiteral("<META Name = ") + quoted(name) + QStringLiteral(" Content = ") +
-           quoted(value) + QLatin1Char('>');
-}
-
 // A page file written as single-byte text with CR LF line ends.
 class PageFile
 {
@@ -31,13 +26,7 @@ public:
         m_file.setFileName(path);
         return m_file.open(QIODevice::WriteOnly | QIODevice::Truncate);
     }
-    void write(const QStringList& lines)
-    {
-        QByteArray bytes;
-        for (const QString& line : lines)
-            bytes += IniText::toWindows1252(line) + "\r\n";
-        m_file.write(bytes);
-    }
+    void write(const QStringList& lines) { m_file.write(SingleByteText::lines(lines)); }
 
 private:
     QFile m_file;
@@ -60,21 +49,9 @@ bool isPicture(const QString& line)
 
 QStringList NetPicPages::header()
 {
-    return {QStringLiteral("<HTML>"),
-            QStringLiteral("<HEAD>"),
-            QStringLiteral("<TITLE>NetPic</TITLE>"),
-            meta(QStringLiteral("Description"), QStringLiteral("Vorlan's NetPic Picture Html")),
-            meta(QStringLiteral("Keywords"),
-                 QStringLiteral("Pictures,Vorlan,") + QLatin1String(Endpoint::ProductHomeUrl)),
-            meta(QStringLiteral("Rating"), QStringLiteral("General")),
-            QStringLiteral("<style TYPE=") + quoted(QStringLiteral("text/css")) + QLatin1Char('>'),
-            QStringLiteral("<!--"),
-            QStringLiteral("A{text-decoration: none;} A:link{color: #5900DF;} A:visited{color: "
-                           "#FFA000;} A:hover{ color:#FF0000; text-decoration: underline }"),
-            QStringLiteral("-->"),
-            QStringLiteral("</style>"),
-            QStringLiteral("</HEAD>"),
-            QStringLiteral("<BODY>")};
+    return PageHeadLines(QStringLiteral("NetPic"), QStringLiteral("Vorlan's NetPic Picture Html"),
+                         QStringLiteral("Pictures,Vorlan,") +
+                             QLatin1String(Endpoint::ProductHomeUrl));
 }
 
 QStringList NetPicPages::footer()
@@ -109,7 +86,7 @@ QStringList NetPicPages::write(const QString& listFile, const QString& base, boo
     bool complete = false;
     int count = 0;
     while (!list.atEnd()) {
-        const QString line = IniText::fromWindows1252(list.readLine()).trimmed();
+        const QString line = SingleByteText::decode(list.readLine()).trimmed();
         if (pump)
             pump();
         if (!isPicture(line))
@@ -143,11 +120,11 @@ void NetPicPages::logServer(const QString& logFile, const QString& base)
     if (log.open(QIODevice::ReadOnly)) {
         const QString wanted = base.toLower();
         while (!log.atEnd()) {
-            if (IniText::fromWindows1252(log.readLine()).toLower().contains(wanted))
+            if (SingleByteText::decode(log.readLine()).toLower().contains(wanted))
                 return;
         }
         log.close();
     }
     if (log.open(QIODevice::WriteOnly | QIODevice::Append))
-        log.write(IniText::toWindows1252(base) + "\r\n");
+        log.write(SingleByteText::lines({base}));
 }

@@ -4,7 +4,7 @@
 #include "browserone/BrowserControl.h"
 #include "core/AppContext.h"
 #include "core/FileServices.h"
-#include "core/IniText.h"
+#include "core/SingleByteText.h"
 
 #include <QFile>
 
@@ -16,9 +16,7 @@ bool writeLines(const QString& path, const QStringList& lines)
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return false;
-    QByteArray bytes;
-    for (const QString& line : lines)
-        bytes += IniText::toWindows1252(line) + "\r\n";
+    const QByteArray bytes = SingleByteText::lines(lines);
     return file.write(bytes) == bytes.size();
 }
 } // namespace

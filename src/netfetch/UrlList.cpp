@@ -1,7 +1,7 @@
 #include "UrlList.h"
 
 #include "core/FileServices.h"
-#include "core/IniText.h"
+#include "core/SingleByteText.h"
 
 #include <QFile>
 
@@ -32,7 +32,7 @@ UrlList UrlList::read(const QString& path)
     QStringList lines;
     if (file.open(QIODevice::ReadOnly)) {
         while (!file.atEnd() && lines.size() <= 4 * MaxUrls)
-            lines << IniText::fromWindows1252(file.readLine());
+            lines << SingleByteText::decode(file.readLine());
     }
     return parse(lines);
 }

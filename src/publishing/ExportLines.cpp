@@ -1,18 +1,11 @@
 #include "ExportLines.h"
 
-#include "core/IniText.h"
+#include "core/PageHead.h"
+#include "core/SingleByteText.h"
 
 namespace {
 
 constexpr int PadWidth = 60;
-
-QByteArray lines(const QStringList& texts)
-{
-    QByteArray bytes;
-    for (const QString& text : texts)
-        bytes += IniText::toWindows1252(text) + "\r\n";
-    return bytes;
-}
 
 QString padded(const QString& text)
 {
@@ -48,7 +41,7 @@ QString pageText(const QString& text)
     out.reserve(escaped.size());
     for (qsizetype i = 0; i < escaped.size(); ++i) {
         const QChar c = escaped[i];
-        const bool fits = c == QLatin1Char('?') || IniText::toWindows1252(QString(c)) != "?";
+        const bool fits = c == QLatin1Char('?') || SingleByteText::encode(QString(c)) != "?";
         if (fits && !c.isSurrogate()) {
             out += c;
             continue;
@@ -68,32 +61,20 @@ QByteArray ExportLines::textLine(const Row& row, bool withDate)
     const QString comment =
         padded(oneLine(row.comment).replace(QLatin1Char(','), QLatin1Char(' ')));
     if (!withDate)
-        return lines({comment + QLatin1Char(',') + csvAddress(row.address)});
+        return SingleByteText::lines({comment + QLatin1Char(',') + csvAddress(row.address)});
     const QString date = oneLine(row.date).replace(QLatin1Char(','), QLatin1Char(' '));
-    return lines(
+    return SingleByteText::lines(
         {comment + QLatin1Char(',') + padded(csvAddress(row.address)) + QLatin1Char(',') + date});
 }
 
 QByteArray ExportLines::pageHeader()
 {
-    return lines({
-        QStringLiteral("<HTML>"),
-        QStringLiteral("<HEAD>"),
-        QStringLiteral("<TITLE>Vorlan Html Link Export</TITLE>"),
-        QStringLiteral("<META Name = \"Description\" Content = \"Vorlan Link Export\">"),
-        QStringLiteral("<META Name = \"Keywords\" Content = \"Links,Vorlan,GeoCities\">"),
-        QStringLiteral("<META Name = \"Rating\" Content = \"General\">"),
-        QStringLiteral("<style TYPE=\"text/css\">"),
-        QStringLiteral("<!--"),
-        QStringLiteral("A{text-decoration: none;} A:link{color: #5900DF;} A:visited{color: "
-                       "#FFA000;} A:hover{ color:#FF0000; text-decoration: underline }"),
-        QStringLiteral("-->"),
-        QStringLiteral("</style>"),
-        QStringLiteral("</HEAD>"),
-        QStringLiteral("<BODY>"),
-        QStringLiteral(
-            "<table border=\"1\" bordercolor=\"#000000\" cellspacing=\"0\" cellpadding=\"2\">"),
-    });
+    QStringList head = PageHeadLines(QStringLiteral("Vorlan Html Link Export"),
+                                     QStringLiteral("Vorlan Link Export"),
+                                     QStringLiteral("Links,Vorlan,GeoCities"));
+    head << QStringLiteral(
+        "<table border=\"1\" bordercolor=\"#000000\" cellspacing=\"0\" cellpadding=\"2\">");
+    return SingleByteText::lines(head);
 }
 
 QByteArray ExportLines::pageRow(const Row& row, bool withDate)
@@ -107,17 +88,18 @@ QByteArray ExportLines::pageRow(const Row& row, bool withDate)
         texts.append(QStringLiteral("<TD>") + pageText(date) + QStringLiteral("</TD>"));
     }
     texts.append(QStringLiteral("</TR>"));
-    return lines(texts);
+    return SingleByteText::lines(texts);
 }
 
 QByteArray ExportLines::japanHeading()
 {
-    return lines({QStringLiteral("<TR>"), QStringLiteral("<TD><B>GeoCities Japan Links</B></TD>"),
-                  QStringLiteral("<TD>* * * * *</TD>"), QStringLiteral("</TR>")});
+    return SingleByteText::lines({QStringLiteral("<TR>"),
+                                  QStringLiteral("<TD><B>GeoCities Japan Links</B></TD>"),
+                                  QStringLiteral("<TD>* * * * *</TD>"), QStringLiteral("</TR>")});
 }
 
 QByteArray ExportLines::pageFooter()
 {
-    return lines(
+    return SingleByteText::lines(
         {QStringLiteral("</table>"), QStringLiteral("</BODY>"), QStringLiteral("</HTML>")});
 }

@@ -59,7 +59,8 @@ private slots:
         PageSources archive = with(PageSource::InternetArchive);
         for (const QString& other :
              {QString("http://www.altavista.com"), QString("http://www.http://geocities.com/x/"),
-              QString("/tmp/page.htm"), QString("http://www.geocities.com.evil.org/SoHo/")}) {
+              QDir::currentPath() + "/page.htm",
+              QString("http://www.geocities.com.evil.org/SoHo/")}) {
             const PageOpening page = archive.rewrite(other);
             QCOMPARE(page.target, other);
             QVERIFY(page.original.isEmpty());

@@ -261,7 +261,7 @@ private slots:
     void theViewerStaysOpenAndRefusesWindows()
     {
         GetterRig r;
-        r.getter->frmInetgetCalls(InetgetCall::Viewer, "/tmp/x.htm");
+        r.getter->frmInetgetCalls(InetgetCall::Viewer, r.folder + "x.htm");
         QVERIFY(r.getter->ViewerMode);
         QCOMPARE(r.window.calls, QStringList{"show"});
         QVERIFY(!r.browser.askNewWindow());

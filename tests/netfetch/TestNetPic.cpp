@@ -1,6 +1,6 @@
 #include "NavigatorRig.h"
-#include "core/IniText.h"
 #include "core/SettingsKeys.h"
+#include "core/SingleByteText.h"
 #include "netfetch/NetPic.h"
 #include "netfetch/NetPicHost.h"
 #include "netfetch/NetPicPages.h"
@@ -27,7 +27,7 @@ QStringList linesOf(const QString& path)
     const QByteArray bytes = f.readAll();
     if (!bytes.isEmpty() && !bytes.endsWith("\r\n"))
         return {"<no CR LF at the end>"};
-    QStringList lines = IniText::fromWindows1252(bytes).split("\r\n");
+    QStringList lines = SingleByteText::decode(bytes).split("\r\n");
     lines.removeLast();
     return lines;
 }
