@@ -2,6 +2,7 @@
 
 #include "CatalogueData.h"
 #include "SavedLink.h"
+#include "SwsTable.h"
 #include "TableNames.h"
 
 #include <QString>
@@ -59,6 +60,13 @@ struct SharedState
     CatalogueData catalogue;
     QVector<SavedLink> gastrSavedLinks;
     int gintSavedLinkTop = 0;
+
+    // Browser Two
+    QVector<QString> gstrSites; // the loaded word list; entry 0 unused, words from 1
+    QString gstrNewListName;    // the answer of the list name dialog
+    QString gstrMdbResult;      // the word source chosen, lower case
+    bool gblnWBTAutoMode = false;
+    SwsTable gstrSWS;
 
     void reset() { *this = SharedState(); }
 };
