@@ -5,13 +5,17 @@
 #include "browserone/BrowserOneWindows.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/frmWBOne.h"
+#include "cache/CacheWindows.h"
 #include "core/AppContext.h"
 #include "core/frmAbout.h"
+#include "navigator/NavigatorControls.h"
 #include "navigator/NeighborhoodPictures.h"
 #include "navigator/frmGeoCities.h"
 #include "netfetch/FileGetter.h"
 #include "netfetch/NetFetchWindows.h"
 #include "publishing/PublishingWindows.h"
+
+#include <QWebEngineProfile>
 
 WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
 {
@@ -38,6 +42,12 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
                 m_netFetch->unloadGetter();
         });
     add(
+        ProgramWindow::Cache, [this] { cacheWindows().show(); },
+        [this] {
+            if (m_cache)
+                m_cache->unload();
+        });
+    add(
         ProgramWindow::Export, [this] { publishingWindows().showExport(); },
         [this] {
             if (m_publishing)
@@ -55,6 +65,7 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
 WindowRegistry::~WindowRegistry()
 {
     m_publishing.reset();
+    m_cache.reset();
     m_netFetch.reset();
     m_browserOne.reset();
     m_main.reset();
@@ -108,6 +119,38 @@ NetFetchWindows& WindowRegistry::netFetchWindows()
         m_netFetch = std::make_unique<NetFetchWindows>(m_ctx, m_main->navigator(), links);
     }
     return *m_netFetch;
+}
+
+CacheWindows& WindowRegistry::cacheWindows()
+{
+    main();
+    if (!m_cache) {
+        CacheWindows::Links links;
+        // Browser One's entry is bound to the navigator's, so one switch serves both.
+        links.enableMenus = [this](bool on) {
+            m_main->navigator().controls().mnuCache.setEnabled(on);
+        };
+        links.releaseOnTop = [this] {
+            if (m_ctx.state.gblnMainOnTop)
+                m_main->navigator().frmGeoCitiesCalls(GeoCitiesCall::OnTop);
+            if (m_ctx.state.gblnWBOneOnTop)
+                toggleBrowserOneOnTop();
+        };
+        links.openViewer = [this](const QString& path) {
+            netFetchWindows().frmInetgetCalls(int(InetgetCall::Viewer), path);
+        };
+        links.showPages = [this](const QStringList& pages) {
+            ShowBrowserOne();
+            if (frmWBOne* browser = browserOne())
+                browser->rules().CommunicatWithNetPic(pages);
+            if (!pages.isEmpty())
+                m_main->navigator().NavigateSomeWhereElse(pages.first());
+        };
+        links.profileCache = [this] { return browserOneWindows().profile()->cachePath(); };
+        links.treeWidth = [this] { return treeWidthTwips(); };
+        m_cache = std::make_unique<CacheWindows>(m_ctx, links);
+    }
+    return *m_cache;
 }
 
 PublishingWindows& WindowRegistry::publishingWindows()

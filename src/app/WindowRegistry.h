@@ -10,6 +10,7 @@
 
 struct AppContext;
 class BrowserOneWindows;
+class CacheWindows;
 class NetFetchWindows;
 class PublishingWindows;
 class frmGeoCities;
@@ -51,6 +52,7 @@ private:
     void add(ProgramWindow window, std::function<void()> show, std::function<void()> unload = {});
     BrowserOneWindows& browserOneWindows();
     NetFetchWindows& netFetchWindows();
+    CacheWindows& cacheWindows();
     PublishingWindows& publishingWindows();
     // The tree window's width in twips, 0 while it is not open.
     int treeWidthTwips() const;
@@ -60,5 +62,6 @@ private:
     std::unique_ptr<frmGeoCities> m_main;
     std::unique_ptr<BrowserOneWindows> m_browserOne;
     std::unique_ptr<NetFetchWindows> m_netFetch;
+    std::unique_ptr<CacheWindows> m_cache;
     std::unique_ptr<PublishingWindows> m_publishing;
 };

@@ -9,6 +9,7 @@
 #include "core/PlaceWindow.h"
 #include "core/WindowPlace.h"
 #include "navigator/MainWindowCalls.h"
+#include "navigator/NavigatorControls.h"
 #include "navigator/PageSources.h"
 
 #include <QClipboard>
@@ -60,6 +61,10 @@ frmWBOne::frmWBOne(AppContext& ctx, MainWindowCalls& main, BrowserOneWindows& wi
     ControlBinder::bind(m_rules->txtAddressBar, m_addressBar);
     ControlBinder::bind(m_rules->cmdNext, m_next);
     buildMenu();
+    // The cache manager's entry is the navigator's own, pressed from here.
+    QAction* cache = m_menu->findChild<QMenu*>(QStringLiteral("mnuXtras"))->addAction(QString());
+    ControlBinder::bind(main.controls().mnuCache, cache);
+    cache->setCheckable(false);
     connect(m_rules.get(), &BrowserOne::resizeRequested, this, [this] { resize(size()); });
     m_rules->Load();
 }
