@@ -48,8 +48,9 @@ bool listedBefore(const QByteArray& a, const QByteArray& b)
     return c != 0 ? c < 0 : a < b;
 }
 
-// One folder's entries, hidden ones included, "." and ".." skipped.
-Entries readFolder(const QByteArray& folder)
+// One folder's entries, hidden ones included, "." and ".." skipped; of the
+// files only those that fit the mask.
+Entries readFolder(const QByteArray& folder, const QByteArray& mask)
 {
     Entries found;
     DIR* dir = ::opendir(folder.constData());
@@ -62,7 +63,8 @@ Entries readFolder(const QByteArray& folder)
             continue;
         switch (kindOf(folder, entry)) {
         case Kind::File:
-            found.files.append(QByteArray(name));
+            if (CacheListing::nameFits(QByteArray::fromRawData(name, int(qstrlen(name))), mask))
+                found.files.append(QByteArray(name));
             break;
         case Kind::Folder:
             found.folders.append(QByteArray(name));
@@ -77,12 +79,24 @@ Entries readFolder(const QByteArray& folder)
     return found;
 }
 
+// A mask without wildcards is a plain extension, compared without fnmatch.
+bool plainExtension(const QByteArray& pattern)
+{
+    return !pattern.contains('*') && !pattern.contains('?') && !pattern.contains('[');
+}
+
 } // namespace
 
 bool CacheListing::nameFits(const QByteArray& name, const QByteArray& pattern)
 {
     if (pattern == "*")
         return true;
+    if (plainExtension(pattern)) {
+        const qsizetype tail = pattern.size() + 1;
+        return name.size() >= tail && name.at(name.size() - tail) == '.' &&
+               qstrnicmp(name.constData() + name.size() - pattern.size(), pattern.constData(),
+                         pattern.size()) == 0;
+    }
     // "*.h??" also fits "a.h" and "a.ht": each trailing "?" may be absent.
     // A "[" of a typed extension is a plain character to the classic query.
     QByteArray mask = "*." + QByteArray(pattern).replace('[', "[[]");
@@ -101,9 +115,10 @@ CacheListing::Result CacheListing::list(const QString& folder, bool collectSubs,
     Result result;
     const QByteArray root = QFile::encodeName(folder);
     QList<QByteArray> folders{root};
+    const QByteArray mask = pattern.toLocal8Bit();
     Entries rootEntries;
     if (collectSubs) {
-        rootEntries = readFolder(root);
+        rootEntries = readFolder(root, mask);
         for (const QByteArray& name : std::as_const(rootEntries.folders)) {
             if (folders.size() == MaxFolders)
                 break;
@@ -111,9 +126,8 @@ CacheListing::Result CacheListing::list(const QString& folder, bool collectSubs,
         }
         result.subFolders = folders.size() - 1;
     }
-    const QByteArray mask = pattern.toLocal8Bit();
     for (int i = 0; i < folders.size() && result.files.size() < MaxFiles; ++i) {
-        const Entries entries = i == 0 && collectSubs ? rootEntries : readFolder(folders[i]);
+        const Entries entries = i == 0 && collectSubs ? rootEntries : readFolder(folders[i], mask);
         if (!entries.readable) {
             result.stoppedByError = true;
             break;
@@ -123,8 +137,6 @@ CacheListing::Result CacheListing::list(const QString& folder, bool collectSubs,
         for (const QByteArray& name : entries.files) {
             if (result.files.size() == MaxFiles)
                 break;
-            if (!nameFits(name, mask))
-                continue;
             const QString shown = QFile::decodeName(name);
             if (!filter.isEmpty() && !shown.toLower().contains(filter))
                 continue;
