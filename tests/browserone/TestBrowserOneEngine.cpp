@@ -205,7 +205,7 @@ private slots:
         for (QAction* a : r.windows.browserOne()->findChild<QMenu*>("mnuXtras")->actions())
             xtras << a->text();
         QCOMPARE(xtras, (QStringList{"AddFavorite", "Get File List", "SaveAs", "Copy URL", "Reduce",
-                                     "On Top"}));
+                                     "On Top", "IE&Cache Manager"}));
         QCOMPARE(r.windows.browserOne()->findChild<QMenu*>("mnuSearch")->actions().size(), 7);
     }
 
