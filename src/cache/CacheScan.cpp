@@ -340,8 +340,10 @@ void CacheScan::NewOutDirClick()
     // The dialog answers through PassVariable; an empty answer (OK on the
     // root) leaves this waiting, as the window always did, until the user
     // picks again or the window goes.
+    m_waiting = true;
     while (state.OutDir.isEmpty() && !m_unloaded)
         m_host.pumpEvents(true);
+    m_waiting = false;
     if (m_unloaded)
         return;
     if (state.OutDir == QLatin1String("aborted"))

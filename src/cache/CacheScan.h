@@ -66,6 +66,8 @@ public:
     // The user closes the window with its close box: always refused; during
     // an action it stops the action.
     void QueryUnload();
+    // True while "Out Dir" waits for the folder dialog's answer.
+    bool waitingForFolder() const { return m_waiting; }
     // True while keys pressed in the window are to be dropped.
     bool keysDropped() const { return form.text() == BusyTitle; }
 
@@ -104,4 +106,5 @@ private:
     CacheFileModel m_files;
     QItemSelectionModel m_selection{&m_files};
     bool m_unloaded = false;
+    bool m_waiting = false;
 };

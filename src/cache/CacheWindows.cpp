@@ -9,12 +9,26 @@ CacheWindows::CacheWindows(AppContext& ctx, Links links) : m_ctx(ctx), m_links(s
 CacheWindows::~CacheWindows()
 {
     delete m_cache;
+    for (const QPointer<frmCache>& closed : std::as_const(m_closed))
+        delete closed;
+}
+
+// An unloaded window may still have its run or its wait for the folder
+// dialog on the stack, pumping events: it goes only once that has ended.
+void CacheWindows::dropClosed()
+{
+    for (QPointer<frmCache>& closed : m_closed) {
+        if (closed && !closed->inUse())
+            delete closed;
+    }
+    m_closed.removeAll(nullptr);
 }
 
 void CacheWindows::show()
 {
     if (m_ctx.state.gblnCacheLoaded && m_cache)
         return;
+    dropClosed();
     if (m_links.enableMenus)
         m_links.enableMenus(false);
     m_wait = std::make_unique<frmWait>(m_ctx.state);
@@ -30,8 +44,8 @@ void CacheWindows::show()
     links.unloaded = [this] {
         if (m_links.enableMenus)
             m_links.enableMenus(true);
-        if (m_cache)
-            m_cache->deleteLater();
+        m_closed.append(m_cache);
+        m_cache = nullptr;
     };
     m_cache = new frmCache(m_ctx, links);
     unloadWait();

@@ -42,9 +42,12 @@ public:
 
 private:
     void unloadWait();
+    // Deletes the unloaded windows that no run or wait holds any longer.
+    void dropClosed();
 
     AppContext& m_ctx;
     Links m_links;
     QPointer<frmCache> m_cache;
+    QList<QPointer<frmCache>> m_closed; // unloaded, not yet deleted
     std::unique_ptr<frmWait> m_wait;
 };

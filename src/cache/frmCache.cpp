@@ -366,6 +366,7 @@ bool frmCache::hasActions() const
 
 void frmCache::runAction()
 {
+    m_running = true;
     try {
         m_actions->RunCacheAction();
     } catch (const std::exception&) {
@@ -373,6 +374,7 @@ void frmCache::runAction()
         m_actions->FinishCacheAction();
         m_rules->ListCacheFiles();
     }
+    m_running = false;
 }
 
 void frmCache::unloadWindow()

@@ -45,6 +45,9 @@ public:
     void FakeSub();
     // The window's Unload: the run finished, the menus back, the place saved.
     void Unload();
+    // True while a run or a wait of this window is on the stack: the window
+    // must outlive it.
+    bool inUse() const { return m_running || m_rules->waitingForFolder(); }
 
     // CacheActionHost
     int listCount() const override;
@@ -90,4 +93,5 @@ private:
     QLineEdit* m_ext = nullptr;
     QLineEdit* m_search = nullptr;
     bool m_unloaded = false;
+    bool m_running = false;
 };

@@ -3,6 +3,7 @@
 #include "WindowsRig.h"
 #include "browserone/frmWBOne.h"
 #include "cache/CacheProgressOverflow.h"
+#include "cache/CacheWindows.h"
 #include "cache/FolderTree.h"
 #include "cache/frmCache.h"
 #include "cache/frmOutPutDir.h"
@@ -153,7 +154,7 @@ private slots:
         w->close(); // the close box is refused
         QVERIFY(w->isVisible());
         QTest::mouseClick(w->findChild<QPushButton*>("cmdCache[1]"), Qt::LeftButton);
-        QTRY_VERIFY(!WindowsRig::topLevel<frmCache>());
+        QTRY_VERIFY(!WindowsRig::topLevel<frmCache>(true));
         QVERIFY(!r.t.state.gblnCacheLoaded);
         QVERIFY(entry->isEnabled());
         QVERIFY(counterpart->isEnabled());
@@ -161,7 +162,7 @@ private slots:
         counterpart->trigger();
         QVERIFY(WindowsRig::topLevel<frmCache>(true));
         r.windows.unloadWindow(ProgramWindow::Cache);
-        QTRY_VERIFY(!WindowsRig::topLevel<frmCache>());
+        QTRY_VERIFY(!WindowsRig::topLevel<frmCache>(true));
     }
 
     // The pickers through their widgets: a folder chosen in the tree, an
@@ -270,6 +271,36 @@ private slots:
         QCOMPARE(RecordingActions::runs, 2);
         QVERIFY(RecordingActions::rounds > 0);
         QVERIFY(w.isVisible());
+    }
+
+    // The program unloads the window and the user opens it again while a
+    // run is still on the stack: the old window outlives its run.
+    void reopenedDuringRun()
+    {
+        TestContext t;
+        t.ctx.SaveSetting("CacheManager", "PreviousPath", t.folders.root() + "/");
+        CacheWindows::Links links;
+        links.actions = recordingActions();
+        int menuSwitches = 0;
+        links.enableMenus = [&menuSwitches](bool) { ++menuSwitches; };
+        CacheWindows windows(t.ctx, links);
+        windows.show();
+        QPointer<frmCache> first = windows.window();
+        QVERIFY(first && t.state.gblnCacheLoaded);
+        first->rules().optAction(0).click();
+        QPointer<frmCache> second;
+        QTimer::singleShot(50, [&] {
+            windows.unload();
+            windows.show();
+            second = windows.window();
+        });
+        first->rules().cmdCache(0).click();
+        QVERIFY(first);
+        QVERIFY(second && second != first && second->isVisible());
+        QCOMPARE(menuSwitches, 3);
+        windows.unload();
+        windows.show();
+        QVERIFY(!first && !second);
     }
 
     // The output folder dialog: Cancel reads the stored folder again; OK
