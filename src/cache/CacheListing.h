@@ -7,6 +7,10 @@
 // immediate sub-folders when asked, whose extension fits a pattern and
 // whose name holds a filter. Folders are read with readdir, names matched
 // as bytes, so that 20,000 files list in about the time `find` takes.
+//
+// Names and folders are compared in lower case but listed as they are: on
+// a case-sensitive file system a lower-cased path would name no file. Each
+// folder lists in name order, as the classic system's folders did.
 class CacheListing
 {
 public:
