@@ -118,24 +118,6 @@ private slots:
         QCOMPARE(CacheListing::report(found), QString("I Found 200 Files in 200 Subs!"));
     }
 
-    // Short form whenever no sub-folder was taken; S counts folders with hits.
-    void reportForms()
-    {
-        TestFolders f;
-        const QString root = f.root() + "/c/";
-        QVERIFY(putFile(root + "a.txt"));
-        auto alone = CacheListing::list(root, true, "*", QString());
-        QCOMPARE(CacheListing::report(alone), QString("I Found 1 Files."));
-        QVERIFY(QDir().mkpath(root + "empty"));
-        QVERIFY(putFile(root + "full/b.txt"));
-        auto subs = CacheListing::list(root, true, "txt", QString());
-        QCOMPARE(subs.subFolders, 2);
-        QCOMPARE(CacheListing::report(subs), QString("I Found 2 Files in 2 Subs!"));
-        QVERIFY(QFile::remove(root + "a.txt"));
-        subs = CacheListing::list(root, true, "txt", QString());
-        QCOMPARE(CacheListing::report(subs), QString("I Found 1 Files in 1 Subs!"));
-    }
-
     // The filter looks at the name only, as plain text, without case.
     void nameFilter()
     {

@@ -141,13 +141,12 @@ private slots:
         QCOMPARE(c.state.SelectedAction, qint16(-1));
         QVERIFY(!c.optAction(8).isChecked());
         QVERIFY(r.textActionsOff());
-        QVERIFY(!c.optAction(5).isChecked() && c.optAction(5).isEnabled());
+        QVERIFY(c.optAction(5).isEnabled());
 
         c.optExt(5).click();
         c.txtExt.setText(" B");
         QCOMPARE(c.state.FilePattern, QString("b"));
         QCOMPARE(c.state.SavedPattern, QString("htm"));
-        QCOMPARE(c.form.text(), QString("I Found 0 Files."));
         c.txtExt.setText(" Ba ");
         QCOMPARE(c.form.text(), QString("I Found 1 Files."));
         QVERIFY(!c.optExt(5).isChecked());
@@ -164,9 +163,6 @@ private slots:
         QCOMPARE(c.form.text(), QString("I Found 4 Files."));
         c.txtExt.setText("");
         QCOMPARE(c.state.FilePattern, QString("htm")); // saved when "*" was typed
-        c.txtExt.setText("jpg");
-        c.txtExt.setText("");
-        QCOMPARE(c.state.FilePattern, QString("htm"));
     }
 
     // A short typed extension lists itself until an action starts; then it
