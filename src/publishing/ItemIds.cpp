@@ -1,6 +1,5 @@
 #include "ItemIds.h"
 
-#include <QCoreApplication>
 #include <QTime>
 
 namespace {
@@ -24,7 +23,6 @@ ItemIds::ItemIds(std::function<QString()> timeText) : m_timeText(std::move(timeT
 
 QString ItemIds::NewItemId()
 {
-    QCoreApplication::processEvents();
     for (;;) {
         m_random.seed(digitsOf(m_timeText()).toUInt() ^ m_random.generate());
         // A single-precision number has seven significant digits, and shows

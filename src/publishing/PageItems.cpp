@@ -5,15 +5,11 @@
 
 using PageMarkup::html;
 using PageMarkup::lines;
+using PageMarkup::quoted;
 
 namespace {
 
 const QString Br = QStringLiteral("<BR>\r\n");
-
-QString quoted(const QString& text)
-{
-    return QLatin1Char('"') + text + QLatin1Char('"');
-}
 
 // For each event: its empty routine in the script, and the line that names
 // it in the tag.
@@ -197,23 +193,11 @@ QString PageItems::page(const PageText& page, const QString& formId, const QStri
         body << "   <CENTER>";
     body << "      <FONT " + page.strBodyFont + ">"
          << "\r\n"
-         << "<CENTER>"
-         << "<BR>You will need to edit this file deleting"
-         << "<BR>what you don't need and adding what you do."
-         << "<BR>Script is prewritten for your convenience!</CENTER><P>"
-         << "\r\n"
+         << "<CENTER>" << PageMarkup::editNote() << "\r\n"
          << "      </FONT>";
     if (page.blnCenter)
         body << "   </CENTER>";
-    body << "      <FORM "
-         << "          NAME = " + quoted("FRM" + formId.left(3)) << "          METHOD = \"POST\""
-         << "          ACTION = " + quoted(Endpoint::FormMailTarget) + ">" << page.strBody
-         << "         <INPUT "
-         << "             TYPE = \"SUBMIT\""
-         << "             NAME = \"B1\""
-         << "             VALUE = \"SUBMIT\">"
-         << "      </FORM><P><P>"
-         << "   </BODY>"
-         << "</HTML>";
+    body << PageMarkup::formStart("FRM" + formId.left(3)) << page.strBody
+         << PageMarkup::formEnd(QStringLiteral("         "), QStringLiteral("   </BODY>"));
     return out + lines(body);
 }

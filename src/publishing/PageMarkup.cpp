@@ -1,5 +1,6 @@
 #include "PageMarkup.h"
 
+#include "core/Endpoints.h"
 #include "core/SingleByteText.h"
 
 namespace {
@@ -76,6 +77,35 @@ QString PageMarkup::bodyFont(const QString& name, double pointSize, int color)
 {
     return QStringLiteral("FACE = \"%1\" SIZE = \"%2\" COLOR = \"%3\" ")
         .arg(html(name), QString::number(pointSize / 4.0), QString::number(color));
+}
+
+QString PageMarkup::quoted(const QString& text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+QStringList PageMarkup::editNote()
+{
+    return {"<BR>You will need to edit this file deleting",
+            "<BR>what you don't need and adding what you do.",
+            "<BR>Script is prewritten for your convenience!</CENTER><P>"};
+}
+
+QStringList PageMarkup::formStart(const QString& name)
+{
+    return {"      <FORM ", "          NAME = " + quoted(name), "          METHOD = \"POST\"",
+            "          ACTION = " + quoted(Endpoint::FormMailTarget) + ">"};
+}
+
+QStringList PageMarkup::formEnd(const QString& indent, const QString& bodyEnd)
+{
+    return {indent + "<INPUT ",
+            indent + "    TYPE = \"SUBMIT\"",
+            indent + "    NAME = \"B1\"",
+            indent + "    VALUE = \"SUBMIT\">",
+            "      </FORM><P><P>",
+            bodyEnd,
+            "</HTML>"};
 }
 
 QString PageMarkup::emptySub(const QString& name)

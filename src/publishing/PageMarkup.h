@@ -19,6 +19,15 @@ QString head();
 QString defaultBodyFont();
 // The FONT attributes for a chosen font; color as the classic 0x00BBGGRR.
 QString bodyFont(const QString& name, double pointSize, int color);
+// The text between double quotes.
+QString quoted(const QString& text);
+// The three lines that ask the user to edit the page.
+QStringList editNote();
+// The opening of the page's form, named name, sent by mail.
+QStringList formStart(const QString& name);
+// The form's submit button, its tag indented by indent, and the ends of the
+// form, the body (bodyEnd) and the page.
+QStringList formEnd(const QString& indent, const QString& bodyEnd);
 // The empty VBScript routine name, three lines.
 QString emptySub(const QString& name);
 

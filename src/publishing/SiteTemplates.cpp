@@ -6,15 +6,11 @@
 using PageMarkup::html;
 using PageMarkup::lineBreak;
 using PageMarkup::lines;
+using PageMarkup::quoted;
 
 namespace {
 
 const QString FocusSub = QStringLiteral("TextBoxOnFocus");
-
-QString quoted(const QString& text)
-{
-    return QLatin1Char('"') + text + QLatin1Char('"');
-}
 
 QStringList viewText()
 {
@@ -73,10 +69,7 @@ QString SiteTemplates::bodyOpening(const QString& center) const
          << "<BR><CENTER>"
          << "<A HREF = 'JavaScript:" + m_miscSub + "()'>Clicking this link calls Sub " + m_miscSub +
                 "()</A><P>"
-         << "<BR>You will need to edit this file deleting"
-         << "<BR>what you don't need and adding what you do."
-         << "<BR>Script is prewritten for your convenience!</CENTER><P>"
-         << "\r\n";
+         << PageMarkup::editNote() << "\r\n";
     return lines(body);
 }
 
@@ -85,23 +78,14 @@ QString SiteTemplates::form(const QString& boxTag) const
     QStringList form{"      </FONT>"};
     if (m_page.blnCenter)
         form << "   </CENTER>";
-    form << "      <FORM "
-         << "          NAME = " + quoted(m_formName) << "          METHOD = \"POST\""
-         << "          ACTION = " + quoted(Endpoint::FormMailTarget) + ">"
-         << boxTag + "LANGUAGE = \"VBScript\""
+    form << PageMarkup::formStart(m_formName) << boxTag + "LANGUAGE = \"VBScript\""
          << "              OnFocus = '" + FocusSub + "'"
          << "              TYPE = " + quoted(html(m_in.cboVBSSelect[8]))
          << "              NAME = " + quoted(m_boxName)
          << "              VALUE = " + quoted(html(m_in.txtVBSText[1]))
          << "              SIZE = " + quoted(html(m_in.cboVBSSelect[0]))
          << "              MAXLENGTH = " + quoted(html(m_in.cboVBSSelect[1])) + ">"
-         << "          <INPUT "
-         << "              TYPE = \"SUBMIT\""
-         << "              NAME = \"B1\""
-         << "              VALUE = \"SUBMIT\">"
-         << "      </FORM><P><P>"
-         << "  </BODY>"
-         << "</HTML>";
+         << PageMarkup::formEnd(QStringLiteral("          "), QStringLiteral("  </BODY>"));
     return lines(form);
 }
 

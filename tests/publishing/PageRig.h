@@ -69,3 +69,8 @@ inline const QStringList HeadLines{
     "    </STYLE>"};
 
 inline const QString DefaultFont = "FACE = \"MS SERIF\" SIZE = \"4\" COLOR =\"0\" ";
+
+// The lines that ask the user to edit the page.
+inline const QStringList EditNote{"<BR>You will need to edit this file deleting",
+                                  "<BR>what you don't need and adding what you do.",
+                                  "<BR>Script is prewritten for your convenience!</CENTER><P>"};

@@ -34,11 +34,7 @@ QStringList writtenPage(const QStringList& script, const QStringList& body, cons
     page << "      <FONT " + DefaultFont + ">"
          << ""
          << ""
-         << "<CENTER>"
-         << "<BR>You will need to edit this file deleting"
-         << "<BR>what you don't need and adding what you do."
-         << "<BR>Script is prewritten for your convenience!</CENTER><P>"
-         << ""
+         << "<CENTER>" << EditNote << ""
          << ""
          << "      </FONT>";
     if (center)

@@ -63,6 +63,20 @@ QStringList scriptErrors(const QString& path, const QString& probe = QString(),
     return page.errors;
 }
 
+// Opens "Create a web Page" from the Navigator's menu, the output folder
+// set to out; the window on show, or null.
+frmVBScript* openBuilder(WindowsRig& r, QString* out)
+{
+    *out = r.t.folders.root() + "/out/";
+    QDir().mkpath(*out);
+    r.t.ctx.SaveSetting(Sect::CacheManager, Key::DefaultOutPutDir, *out);
+    QAction* entry = r.main->findChild<QAction*>("mnuScript");
+    if (!entry->isEnabled())
+        return nullptr;
+    entry->trigger();
+    return WindowsRig::topLevel<frmVBScript>(true);
+}
+
 } // namespace
 
 class TestPageBuilderWindow : public QObject
@@ -78,14 +92,8 @@ private slots:
     {
         WindowsRig r;
         TestContext& t = r.t;
-        const QString out = t.folders.root() + "/out/";
-        QDir().mkpath(out);
-        t.ctx.SaveSetting(Sect::CacheManager, Key::DefaultOutPutDir, out);
-
-        QAction* entry = r.main->findChild<QAction*>("mnuScript");
-        QVERIFY(entry->isEnabled());
-        entry->trigger();
-        frmVBScript* w = WindowsRig::topLevel<frmVBScript>(true);
+        QString out;
+        frmVBScript* w = openBuilder(r, &out);
         QVERIFY(w);
         QVERIFY(QTest::qWaitForWindowExposed(w));
         QCOMPARE(w->windowTitle(), QString("Click buttons to add items to the document."));
@@ -159,12 +167,8 @@ private slots:
     void pagesLoadInTheEngine()
     {
         WindowsRig r;
-        TestContext& t = r.t;
-        const QString out = t.folders.root() + "/out/";
-        QDir().mkpath(out);
-        t.ctx.SaveSetting(Sect::CacheManager, Key::DefaultOutPutDir, out);
-        r.main->findChild<QAction*>("mnuScript")->trigger();
-        frmVBScript* w = WindowsRig::topLevel<frmVBScript>(true);
+        QString out;
+        frmVBScript* w = openBuilder(r, &out);
         QVERIFY(w);
         PageBuilder& b = w->rules();
         const QString attack = "\"><script>document.title='hit'</script>\r\n\u4E2D";
@@ -176,7 +180,7 @@ private slots:
         b.cmdWriteToFile.click();
         b.cmdSkeleton.click();
         b.cmdThreeFrameSite.click();
-        QVERIFY(t.prompts.messages().isEmpty());
+        QVERIFY(r.t.prompts.messages().isEmpty());
 
         QString seen;
         QCOMPARE(scriptErrors(out + "index.htm",

@@ -33,10 +33,7 @@ QStringList bodyOpening(const QString& misc, const QString& colour, const QStrin
          << "<BR><CENTER>"
          << "<A HREF = 'JavaScript:" + misc + "()'>Clicking this link calls Sub " + misc +
                 "()</A><P>"
-         << "<BR>You will need to edit this file deleting"
-         << "<BR>what you don't need and adding what you do."
-         << "<BR>Script is prewritten for your convenience!</CENTER><P>"
-         << ""
+         << EditNote << ""
          << "";
     return body;
 }
