@@ -17,7 +17,7 @@ QStringList eventLines(PageText& page, const QString& prefix, const QStringList&
 {
     QStringList tagLines;
     for (const QString& event : events) {
-        page.strScript += PageMarkup::emptySub(prefix + event);
+        PageMarkup::AddEmptySub(page.strScript, prefix + event);
         tagLines << QStringLiteral("             ") + event + " = '" + prefix + event + "'";
     }
     return tagLines;
@@ -165,7 +165,7 @@ QString PageItems::radioButton(PageText& page, const QString& id, const QString&
         page.strRadioGroup = "RadioButton" + id;
     }
     const QString routine = "RadioButton" + secondId + "OnClick";
-    page.strScript += PageMarkup::emptySub(routine);
+    PageMarkup::AddEmptySub(page.strScript, routine);
     page.strBody += lines({
                         "         <INPUT " + tagWord + "  LANGUAGE = \"VBScript\"",
                         "             OnClick = '" + routine + "'",

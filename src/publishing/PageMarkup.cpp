@@ -108,9 +108,9 @@ QStringList PageMarkup::formEnd(const QString& indent, const QString& bodyEnd)
             "</HTML>"};
 }
 
-QString PageMarkup::emptySub(const QString& name)
+void PageMarkup::AddEmptySub(QString& script, const QString& name)
 {
-    return lines({"     SUB " + name + "()", "", "     END SUB"});
+    script += lines({"     SUB " + name + "()", "", "     END SUB"});
 }
 
 QString PageMarkup::html(const QString& text)

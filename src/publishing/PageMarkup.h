@@ -28,8 +28,8 @@ QStringList formStart(const QString& name);
 // The form's submit button, its tag indented by indent, and the ends of the
 // form, the body (bodyEnd) and the page.
 QStringList formEnd(const QString& indent, const QString& bodyEnd);
-// The empty VBScript routine name, three lines.
-QString emptySub(const QString& name);
+// Appends the empty VBScript routine name to script, three lines.
+void AddEmptySub(QString& script, const QString& name);
 
 // A typed text as markup shows it: markup characters and quotes as
 // entities, a line end as a blank, a character outside Windows-1252 as its
