@@ -1,12 +1,18 @@
 #include "WidgetPrompts.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDesktopServices>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QUrl>
+#include <QVBoxLayout>
 
 namespace {
 QString displayText(QString text)
@@ -111,6 +117,37 @@ QString WidgetPrompts::saveFileName(const QString& title, const QString& startPa
 QString WidgetPrompts::folderName(const QString& title, const QString& startFolder)
 {
     return QFileDialog::getExistingDirectory(parent(), windowTitle(title), startFolder);
+}
+
+// Qt's font dialog has no colour: it stands inside a dialog of its own with
+// a colour button beside OK and Cancel.
+bool WidgetPrompts::fontDialog(const QString& title, FontChoice& choice)
+{
+    QDialog dialog(parent());
+    dialog.setWindowTitle(windowTitle(title));
+    auto* fonts = new QFontDialog(&dialog);
+    fonts->setWindowFlags(Qt::Widget);
+    fonts->setOptions(QFontDialog::NoButtons);
+    QColor colour = Qt::black;
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    QPushButton* pick = buttons->addButton(QObject::tr("Color..."), QDialogButtonBox::ActionRole);
+    QObject::connect(pick, &QPushButton::clicked, &dialog, [&] {
+        const QColor chosen = QColorDialog::getColor(colour, &dialog);
+        if (chosen.isValid())
+            colour = chosen;
+    });
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->addWidget(fonts);
+    layout->addWidget(buttons);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    const QFont font = fonts->currentFont();
+    choice.name = font.family();
+    choice.pointSize = font.pointSizeF();
+    choice.color = colour.red() + 256 * colour.green() + 65536 * colour.blue();
+    return true;
 }
 
 void WidgetPrompts::openExternally(const QString& urlOrPath)

@@ -17,6 +17,7 @@ public:
     QString saveFileName(const QString& title, const QString& startPath, const QStringList& filters,
                          int selectedFilter) override;
     QString folderName(const QString& title, const QString& startFolder) override;
+    bool fontDialog(const QString& title, FontChoice& choice) override;
     void openExternally(const QString& urlOrPath) override;
 
 private:

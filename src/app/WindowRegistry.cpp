@@ -59,6 +59,12 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
             if (m_publishing)
                 m_publishing->unloadGeoFtp();
         });
+    add(
+        ProgramWindow::Script, [this] { publishingWindows().showScript(); },
+        [this] {
+            if (m_publishing)
+                m_publishing->unloadScript();
+        });
 }
 
 // Browser One's windows reach into the main window's rules: they go first.

@@ -103,6 +103,13 @@ private:
     QComboBox* m_combo;
 };
 
+class NoWheel : public QObject
+{
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::Wheel; }
+};
+
 // The slider's Click: a press on it, on the handle or the track (which Qt
 // turns into a page step without sliderPressed), the wheel, and a key other
 // than the focus keys. The value change that follows is its Change.
@@ -244,6 +251,30 @@ void bind(ListControl& model, QComboBox* combo)
     QObject::connect(&model, &Control::viewChanged, combo, show);
     QObject::connect(combo, qOverload<int>(&QComboBox::activated), &model,
                      [&model](int index) { model.userSelect(index); });
+}
+
+void bindEditable(ListControl& model, QComboBox* combo)
+{
+    combo->setObjectName(model.name());
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->installEventFilter(new NoWheel(combo));
+    combo->addItems(model.items());
+    auto show = [&model, combo] {
+        const QSignalBlocker block(combo);
+        combo->setCurrentIndex(model.listIndex());
+        if (model.listIndex() < 0)
+            combo->setEditText(model.text());
+        showCommon(model, combo);
+    };
+    show();
+    QObject::connect(&model, &Control::viewChanged, combo, show);
+    QObject::connect(combo, qOverload<int>(&QComboBox::activated), &model,
+                     [&model](int index) { model.userSelect(index); });
+    QObject::connect(combo->lineEdit(), &QLineEdit::editingFinished, &model, [&model, combo] {
+        if (combo->currentText() != model.text())
+            model.setText(combo->currentText());
+    });
 }
 
 void bind(ListControl& model, QListWidget* list)

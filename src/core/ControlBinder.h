@@ -22,6 +22,10 @@ void bind(Control& model, QAction* action);
 // The box's tick is the model's check; a click sets it, then fires Click.
 void bind(Control& model, QCheckBox* box);
 void bind(ListControl& model, QComboBox* combo);
+// A box that lists the model's entries and also takes a typed text, which
+// goes to the model when the typing is finished. The wheel passing over it
+// changes nothing.
+void bindEditable(ListControl& model, QComboBox* combo);
 // A click on an entry of the list is the user's choice of it.
 void bind(ListControl& model, QListWidget* list);
 void bind(SliderControl& model, QSlider* slider);

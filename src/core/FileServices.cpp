@@ -60,8 +60,10 @@ bool FileReadable(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    file.readAll();
-    return file.error() == QFile::NoError;
+    // Text input of the classic kind ends at the first end-of-file byte
+    // (Ctrl+Z): a file holding one does not read whole as text.
+    const QByteArray bytes = file.readAll();
+    return file.error() == QFile::NoError && !bytes.contains('\x1a');
 }
 
 QString ReplaceByCopy(const QString& from, const QString& to)

@@ -34,6 +34,6 @@ QString OutputDirectory(const AppContext& ctx);
 QString OutputDirectory(const SettingsStore& settings, const QString& appName,
                         const QString& appPath);
 
-// True when the whole file can be read; false for a folder, a missing or an
-// unreadable file.
+// True when the whole file reads as text; false for a folder, a missing or an
+// unreadable file, and for one holding an end-of-file byte (Ctrl+Z).
 bool FileReadable(const QString& path);

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-// Every message box, question, input box and file or folder dialog of the
+// Every message box, question, input box and file, folder or font dialog of the
 // program goes through this service. The windows install the real one; tests
 // install a scripted one that answers and records.
 class PromptService
@@ -46,6 +46,18 @@ public:
     virtual QString saveFileName(const QString& title, const QString& startPath,
                                  const QStringList& filters, int selectedFilter = 0) = 0;
     virtual QString folderName(const QString& title, const QString& startFolder) = 0;
+
+    // A font as the font dialog gives it: the colour as a number of the
+    // classic kind, red + 256 * green + 65536 * blue.
+    struct FontChoice
+    {
+        QString name;
+        double pointSize = 0;
+        int color = 0;
+    };
+    // The font dialog, with the colour among its choices; false when
+    // cancelled, and choice is then as it was.
+    virtual bool fontDialog(const QString& title, FontChoice& choice) = 0;
 
     // Opens a page of the program's help or an address with the desktop.
     virtual void openExternally(const QString& urlOrPath) = 0;

@@ -7,7 +7,6 @@
 #include "core/SettingsKeys.h"
 
 #include <QEventLoop>
-#include <QFile>
 #include <QFileInfo>
 #include <QThread>
 
@@ -194,22 +193,12 @@ void GeoFtp::sendAll(const FtpTarget& target)
             continue;
         }
         m_ctx.SaveSetting(Sect::FTP, slotKey(slot), path);
-        const bool ascii = SendsAsText(path);
+        const bool ascii = FileReadable(path);
         bool sent = false;
         runAside([&] { sent = upload.put(path, remote, ascii); });
         caption.setText(
             remote + (sent ? QStringLiteral(" sent Successfully!") : QStringLiteral(" Not sent!")));
     }
-}
-
-// Text input of the classic kind ends at the first end-of-file byte
-// (Ctrl+Z): a file holding one does not read whole as text.
-bool GeoFtp::SendsAsText(const QString& path)
-{
-    if (!FileReadable(path))
-        return false;
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && !file.readAll().contains('\x1a');
 }
 
 void GeoFtp::setFtpControls(bool enabled)

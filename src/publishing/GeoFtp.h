@@ -53,9 +53,6 @@ public:
     // Unload: keeps the slots, the credentials and the host.
     void Unload();
     bool controlsEnabled() const { return m_blnControlsEnabled; }
-    // True when the file reads whole as text and so goes as ASCII, else it
-    // goes as binary.
-    static bool SendsAsText(const QString& path);
 
 private:
     void hostChosen();

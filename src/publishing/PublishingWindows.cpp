@@ -2,6 +2,7 @@
 
 #include "frmExport.h"
 #include "frmGeoFtp.h"
+#include "frmVBScript.h"
 
 namespace {
 
@@ -29,6 +30,7 @@ PublishingWindows::~PublishingWindows()
 {
     delete m_export.data();
     delete m_geoFtp.data();
+    delete m_script.data();
 }
 
 void PublishingWindows::showExport()
@@ -50,8 +52,11 @@ void PublishingWindows::unloadExport()
 
 void PublishingWindows::showGeoFtp()
 {
-    if (!m_geoFtp)
-        m_geoFtp = new frmGeoFtp(m_ctx, GeoFtp::Links{});
+    if (!m_geoFtp) {
+        GeoFtp::Links links;
+        links.showScript = [this] { showScript(); }; // its Quick Page
+        m_geoFtp = new frmGeoFtp(m_ctx, links);
+    }
     bringUp(m_geoFtp);
 }
 
@@ -63,4 +68,21 @@ frmGeoFtp* PublishingWindows::geoFtp() const
 void PublishingWindows::unloadGeoFtp()
 {
     closeOpen(m_geoFtp);
+}
+
+void PublishingWindows::showScript()
+{
+    if (!m_script)
+        m_script = new frmVBScript(m_ctx, m_openPage);
+    bringUp(m_script);
+}
+
+frmVBScript* PublishingWindows::script() const
+{
+    return m_script;
+}
+
+void PublishingWindows::unloadScript()
+{
+    closeOpen(m_script);
 }

@@ -7,6 +7,7 @@
 struct AppContext;
 class frmExport;
 class frmGeoFtp;
+class frmVBScript;
 
 // The publishing tools' windows as the program wires them in, each made on
 // first use. The program's registry makes this and reaches them through it.
@@ -23,10 +24,14 @@ public:
     void showGeoFtp();
     frmGeoFtp* geoFtp() const;
     void unloadGeoFtp();
+    void showScript();
+    frmVBScript* script() const;
+    void unloadScript();
 
 private:
     AppContext& m_ctx;
     std::function<void(const QString&)> m_openPage;
     QPointer<frmExport> m_export;
     QPointer<frmGeoFtp> m_geoFtp;
+    QPointer<frmVBScript> m_script;
 };

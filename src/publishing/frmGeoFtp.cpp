@@ -18,15 +18,6 @@ namespace {
 
 constexpr int TwipsPerPixel = 15;
 
-// The wheel passing over the host box would change the host unseen: the
-// box takes no wheel, as the program's other lists.
-class NoWheel : public QObject
-{
-public:
-    using QObject::QObject;
-    bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::Wheel; }
-};
-
 QLineEdit* textBox(Control& model, QLabel* label, QWidget* parent)
 {
     auto* edit = new QLineEdit(parent);
@@ -67,7 +58,8 @@ frmGeoFtp::frmGeoFtp(AppContext& ctx, GeoFtp::Links links, QWidget* parent)
     auto* grid = new QGridLayout(this);
     auto* hostLabel = label(r.Label1, this);
     auto* host = new QComboBox(this);
-    bindHost(host);
+    // The three hosts, or a typed host name.
+    ControlBinder::bindEditable(r.cboFTPHost, host);
     hostLabel->setBuddy(host);
     host->setAccessibleName(r.Label1.text());
     grid->addWidget(hostLabel, 0, 0);
@@ -104,32 +96,6 @@ frmGeoFtp::frmGeoFtp(AppContext& ctx, GeoFtp::Links links, QWidget* parent)
 }
 
 frmGeoFtp::~frmGeoFtp() = default;
-
-// The host box lists the three hosts and also takes a typed host name.
-void frmGeoFtp::bindHost(QComboBox* combo)
-{
-    ListControl& model = m_rules->cboFTPHost;
-    combo->setObjectName(model.name());
-    combo->setEditable(true);
-    combo->setInsertPolicy(QComboBox::NoInsert);
-    combo->installEventFilter(new NoWheel(combo));
-    combo->addItems(model.items());
-    auto show = [&model, combo] {
-        const QSignalBlocker block(combo);
-        combo->setCurrentIndex(model.listIndex());
-        if (model.listIndex() < 0)
-            combo->setEditText(model.text());
-        combo->setEnabled(model.isEnabled());
-    };
-    show();
-    connect(&model, &Control::viewChanged, combo, show);
-    connect(combo, qOverload<int>(&QComboBox::activated), &model,
-            [&model](int index) { model.userSelect(index); });
-    connect(combo->lineEdit(), &QLineEdit::editingFinished, &model, [&model, combo] {
-        if (combo->currentText() != model.text())
-            model.setText(combo->currentText());
-    });
-}
 
 void frmGeoFtp::place()
 {

@@ -5,8 +5,6 @@
 #include <QDialog>
 #include <memory>
 
-class QComboBox;
-
 // "Publish": the host, user id and password, five file slots, Send, Close
 // and Quick Page, with the status line below. The rules are GeoFtp's.
 class frmGeoFtp : public QDialog
@@ -22,7 +20,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void bindHost(QComboBox* combo);
     void place();
 
     AppContext& m_ctx;

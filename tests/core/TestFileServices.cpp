@@ -152,6 +152,9 @@ private slots:
         QVERIFY(FileReadable(dir.path() + "/empty.txt"));
         QVERIFY(!FileReadable(dir.path()));
         QVERIFY(!FileReadable(""));
+        // An end-of-file byte ends text input before the end: binary, then.
+        QVERIFY(putFile(dir.path() + "/pic.gif", QByteArray("GIF89a\x1a\0\1", 9)));
+        QVERIFY(!FileReadable(dir.path() + "/pic.gif"));
         // Without the right to read it.
         QVERIFY(QFile::setPermissions(file, QFileDevice::WriteOwner));
         QFile probe(file);

@@ -96,9 +96,6 @@ private slots:
         QVERIFY(r.t.prompts.messages().isEmpty());
         QCOMPARE(fileBytes(r.home + "/Index.htm"), page);
         QCOMPARE(fileBytes(r.home + "/Pic.GIF"), picture);
-        QVERIFY(GeoFtp::SendsAsText(r.files + "Index.htm"));
-        QVERIFY(!GeoFtp::SendsAsText(r.files + "Pic.GIF")); // its Ctrl+Z ends text input
-        QVERIFY(!GeoFtp::SendsAsText(r.files + "gone.htm"));
         QCOMPARE(r.captions,
                  (QStringList{"Index.htm sent Successfully!", "Pic.GIF sent Successfully!"}));
         QCOMPARE(r.status,

@@ -43,6 +43,17 @@ QString ScriptedPrompts::folderName(const QString& title, const QString& startFo
     return nextPath();
 }
 
+bool ScriptedPrompts::fontDialog(const QString& title, FontChoice& choice)
+{
+    shown.append({QStringLiteral("font"), title, {}, 0, {}, 0, {}});
+    if (m_fonts.isEmpty()) {
+        ++unanswered;
+        return false;
+    }
+    choice = m_fonts.dequeue();
+    return true;
+}
+
 QString ScriptedPrompts::nextPath()
 {
     if (m_paths.isEmpty()) {
@@ -70,4 +81,5 @@ void ScriptedPrompts::clear()
     m_buttons.clear();
     m_texts.clear();
     m_paths.clear();
+    m_fonts.clear();
 }

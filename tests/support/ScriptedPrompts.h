@@ -13,7 +13,7 @@ class ScriptedPrompts : public PromptService
 public:
     struct Shown
     {
-        QString kind; // "msgBox", "inputBox", "openFile", "saveFile", "folder"
+        QString kind; // "msgBox", "inputBox", "openFile", "saveFile", "folder", "font"
         QString title;
         QString text;
         int style = 0;
@@ -25,6 +25,7 @@ public:
     void answer(int button) { m_buttons.enqueue(button); }
     void answerText(const QString& text) { m_texts.enqueue(text); }
     void answerPath(const QString& path) { m_paths.enqueue(path); }
+    void answerFont(const FontChoice& font) { m_fonts.enqueue(font); }
 
     int msgBox(const QString& text, int style, const QString& title) override;
     QString inputBox(const QString& prompt, const QString& title,
@@ -34,6 +35,8 @@ public:
     QString saveFileName(const QString& title, const QString& startPath, const QStringList& filters,
                          int selectedFilter) override;
     QString folderName(const QString& title, const QString& startFolder) override;
+    // Cancelled when no font is queued.
+    bool fontDialog(const QString& title, FontChoice& choice) override;
     void openExternally(const QString& urlOrPath) override { opened.append(urlOrPath); }
 
     QVector<Shown> shown;
@@ -50,4 +53,5 @@ private:
     QQueue<int> m_buttons;
     QQueue<QString> m_texts;
     QQueue<QString> m_paths;
+    QQueue<FontChoice> m_fonts;
 };
