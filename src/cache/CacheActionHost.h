@@ -4,6 +4,11 @@
 #include <QStringList>
 #include <QVector>
 
+// What frmProgress's Increm throws for a percent above its last label.
+struct CacheProgressOverflow
+{
+};
+
 // What a running cache action asks of the cache window. Every call comes
 // on the window's thread.
 class CacheActionHost
