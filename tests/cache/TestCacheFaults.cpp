@@ -1,0 +1,190 @@
+#include "CacheActionRig.h"
+#include "FileFaults.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QtTest>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+// Every file under folder, by its path below it, with its bytes.
+QMap<QString, QByteArray> snapshot(const QString& folder)
+{
+    QMap<QString, QByteArray> files;
+    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        files.insert(QDir(folder).relativeFilePath(path), fileBytes(path));
+    }
+    return files;
+}
+
+// A file named by raw bytes that are no UTF-8, listed under the name the
+// platform gives it.
+QString putRawName(const QString& folder, const QByteArray& name, const QByteArray& bytes)
+{
+    const QByteArray path = QFile::encodeName(folder) + name;
+    const int fd = ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    if (fd >= 0) {
+        if (::write(fd, bytes.constData(), size_t(bytes.size())) != bytes.size())
+            qWarning("short write");
+        ::close(fd);
+    }
+    return QFile::decodeName(path);
+}
+
+} // namespace
+
+class TestCacheFaults : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    // Odd names, a folder and a vanished file in the list: the readable
+    // files are treated, the others passed over without a word, and no
+    // listed file changes.
+    void oddNamesAndUnreadableEntries_data()
+    {
+        QTest::addColumn<int>("action");
+        QTest::newRow("Copy") << 0;
+        QTest::newRow("Text 2 ucase") << 14;
+        QTest::newRow("No Repeats") << 8;
+        QTest::newRow("Find Email") << 15;
+    }
+    void oddNamesAndUnreadableEntries()
+    {
+        QFETCH(int, action);
+        CacheActionRig r;
+        r.list({{"with blank.txt", "a bob@x.com b\r\n"},
+                {"br[1]acket.txt", "b\r\n"},
+                {"quo\"te's.txt", "c\r\n"},
+                {"gone.txt", "d\r\n"}});
+        QFile::remove(r.listed + "gone.txt");
+        QDir().mkpath(r.listed + "folder.txt");
+        r.state.FoundFiles << r.listed + "folder.txt"
+                           << putRawName(r.listed, "raw\xff\xfe.txt", "e\r\n");
+        const auto before = snapshot(r.listed);
+        r.run(action);
+        QVERIFY(r.finished());
+        QVERIFY(r.t.prompts.messages().isEmpty());
+        QCOMPARE(snapshot(r.listed), before);
+        const QStringList made = r.outputs();
+        if (action == 15) {
+            QCOMPARE(r.output("CacheEmail.Txt"), QByteArray("bob@x.com\r\n"));
+            return;
+        }
+        for (const char* name : {"with blank.txt", "br[1]acket.txt", "quo\"te's.txt"})
+            QVERIFY2(made.contains(name), name);
+        QVERIFY(!made.contains("gone.txt") && !made.contains("folder.txt"));
+    }
+
+    // A file that vanishes during the run is passed over; one that grows is
+    // taken as it is when its round comes.
+    void filesChangeDuringRun()
+    {
+        CacheActionRig r;
+        r.list({{"a.txt", "a"}, {"b.txt", "b"}, {"c.txt", "c"}});
+        r.host.onPump = [&] {
+            if (r.host.percents.size() == 1) {
+                QFile::remove(r.listed + "b.txt");
+                QFile grow(r.listed + "c.txt");
+                if (grow.open(QIODevice::Append))
+                    grow.write(QByteArray(100000, 'g'));
+            }
+        };
+        r.run(9);
+        QCOMPARE(r.outputs(), QStringList({"a.txt", "c.txt"}));
+        QCOMPARE(r.output("c.txt"), "c" + QByteArray(100000, 'g') + "\r\n");
+        QVERIFY(r.finished());
+    }
+
+    // Binary bytes under the text actions go through untouched where the
+    // action does not change them, and the harvester reads them safely.
+    void binaryUnderTextActions()
+    {
+        QByteArray binary;
+        for (int i = 0; i < 70000; ++i)
+            binary += char((i * 7919) % 256);
+        for (int action : {8, 10, 15, 16, 17}) {
+            CacheActionRig r;
+            r.list({{"bin.dat", binary}, {"tail.txt", "t"}});
+            r.run(action);
+            QVERIFY2(r.finished(), qPrintable(QString::number(action)));
+            QCOMPARE(fileBytes(r.listed + "bin.dat"), binary);
+        }
+        CacheActionRig whole;
+        whole.list({{"bin.dat", binary}});
+        whole.run(13);
+        QCOMPARE(whole.output("bin.dat").size(), binary.size() + 2);
+    }
+
+    // An output folder that takes no file: each write to the output that
+    // never opened counts, and the third ends the run at the third file.
+    void readOnlyOutputFolder_data()
+    {
+        QTest::addColumn<int>("action");
+        QTest::addColumn<int>("rounds");
+        QTest::newRow("LF 2 CRLF") << 9 << 3;
+        // Its scratch file fails to be written and read back as well.
+        QTest::newRow("Html 2 code") << 6 << 1;
+        QTest::newRow("Write list") << 4 << 3;
+        QTest::newRow("Put into 1 file") << 17 << 3;
+    }
+    void readOnlyOutputFolder()
+    {
+        QFETCH(int, action);
+        QFETCH(int, rounds);
+        CacheActionRig r;
+        r.list({{"a.htm", "a"}, {"b.htm", "b"}, {"c.htm", "c"}, {"d.htm", "d"}, {"e.htm", "e"}});
+        const auto before = snapshot(r.listed);
+        ReadOnlyFolder locked(r.out());
+        if (!locked.refusesFiles())
+            QSKIP("this file system lets every folder take files");
+        r.run(action);
+        QVERIFY(r.finished());
+        QCOMPARE(r.host.listings, 1);
+        QVERIFY(r.outputs().isEmpty());
+        QCOMPARE(r.host.percents.size(), rounds);
+        QCOMPARE(snapshot(r.listed), before);
+    }
+
+    // A disk that fills: copies that cannot be completed are removed, each
+    // counts, and the third ends the run before the small file after them.
+    void fullDisk()
+    {
+        CacheActionRig r;
+        const QByteArray big(20000, 'b');
+        r.list({{"a.txt", big}, {"b.txt", big}, {"c.txt", big}, {"small.txt", "s"}});
+        {
+            FileSizeLimit limit(10000);
+            r.run(0);
+        }
+        QVERIFY(r.finished());
+        QVERIFY(r.outputs().isEmpty());
+        r.run(0);
+        QCOMPARE(r.outputs().size(), 4);
+    }
+
+    // An output folder inside the listed one: the work list stays as it was
+    // fixed, and the copies land only in the output folder.
+    void outputInsideListedFolder()
+    {
+        CacheActionRig r;
+        r.list({{"a.txt", "a"}, {"b.txt", "b"}});
+        r.state.OutDir = r.listed;
+        const auto before = snapshot(r.listed);
+        r.run(0);
+        r.run(10);
+        const auto after = snapshot(r.listed);
+        for (auto it = before.begin(); it != before.end(); ++it)
+            QCOMPARE(after.value(it.key()), it.value());
+        QCOMPARE(QStringList(after.keys()),
+                 QStringList({"a.txt", "a1.txt", "a2.txt", "b.txt", "b1.txt", "b2.txt"}));
+        QCOMPARE(after.value("a2.txt"), QByteArray("a\r\n"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCacheFaults)
+#include "TestCacheFaults.moc"
