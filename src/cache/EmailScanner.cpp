@@ -68,6 +68,7 @@ void EmailScanner::NextEmailAddress(const QByteArray& text, QByteArray& result)
         ScanText = text;
         LinkPhase = 4;
         ScanLength = qint32(text.size());
+        m_nextCapital = 0;
     } else if (FoundCount == 0) {
         reset();
         return;
@@ -152,20 +153,25 @@ void EmailScanner::step(char c, int& linkCount, QByteArray& buffer)
 // Outside a link, with no run of "mailto:" begun and no link waiting to be
 // judged, only an "m" can change the state: the characters before it are
 // passed over.
-qint32 EmailScanner::skipToFirstLetter(qint32 pos) const
+qint32 EmailScanner::skipToFirstLetter(qint32 pos)
 {
     const bool searching = OpenGate != 0 && OpenMatched == 0 && OpenNext == 0 && LinkPhase != 1 &&
                            !(LinkPhase == 0 && !LinkClosed) && (CloseMatched == 4 || OpenGate == 1);
     if (!searching)
         return pos;
-    const char* begin = ScanText.constData() + (pos - 1);
-    const size_t left = size_t(ScanLength - pos + 1);
-    const void* small = std::memchr(begin, 'm', left);
-    const void* capital = std::memchr(begin, 'M', left);
-    const char* first = static_cast<const char*>(small ? small : capital);
-    if (small && capital)
-        first = std::min(static_cast<const char*>(small), static_cast<const char*>(capital));
-    return first ? qint32(first - ScanText.constData()) + 1 : ScanLength + 1;
+    // The next capital is looked up again only once it is passed: a text
+    // without one is searched for it once, not at every "m".
+    if (m_nextCapital < pos) {
+        const void* capital =
+            std::memchr(ScanText.constData() + (pos - 1), 'M', size_t(ScanLength - pos + 1));
+        m_nextCapital = capital
+                            ? qint32(static_cast<const char*>(capital) - ScanText.constData()) + 1
+                            : ScanLength + 1;
+    }
+    const void* small =
+        std::memchr(ScanText.constData() + (pos - 1), 'm', size_t(m_nextCapital - pos));
+    return small ? qint32(static_cast<const char*>(small) - ScanText.constData()) + 1
+                 : m_nextCapital;
 }
 
 // Inside a link, with no run of "</a>" begun, every character up to the

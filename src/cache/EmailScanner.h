@@ -26,7 +26,7 @@ private:
     void matchTag(char c, const Tag& tag, qint16& next, qint16& matched);
     bool scanLinks(QByteArray& result);
     void step(char c, int& linkCount, QByteArray& buffer);
-    qint32 skipToFirstLetter(qint32 pos) const;
+    qint32 skipToFirstLetter(qint32 pos);
     qint32 skipInsideLink(qint32 pos, int& linkCount, QByteArray& buffer);
     QByteArray plainAddress() const;
     QByteArray candidateAt(qsizetype blank, bool& stop) const;
@@ -46,4 +46,5 @@ private:
     bool m_everyCharacter = false;
     bool m_found = false; // set by step() when a link gave its address
     QByteArray m_address;
+    qint32 m_nextCapital = 0; // position of the next "M", past the end when none
 };
