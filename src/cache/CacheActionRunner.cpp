@@ -11,6 +11,10 @@
 #include "core/SingleByteText.h"
 #include "core/VbRuntime.h"
 
+#include <QFileInfo>
+#include <chrono>
+#include <future>
+
 namespace {
 
 enum Action
@@ -41,6 +45,25 @@ constexpr int NoRepeatsLines = 9999;
 // Long loops inside one file look at the stop flag this often.
 constexpr qsizetype WalkChunk = 1 << 16;
 constexpr int LinesBetweenPumps = 64;
+// File work on more bytes than this runs beside the window's thread.
+constexpr qint64 BesideWindowBytes = 4 << 20;
+constexpr std::chrono::milliseconds PumpEvery{20};
+
+// Runs the work on a thread of its own while the window's events are
+// pumped, so that the window repaints and takes Close during a large file;
+// small work runs at once. The work touches no state the window's events
+// reach, and the stop flag is still looked at where the rounds look at it,
+// so the results are the same either way.
+template <typename Work>
+auto besideWindow(CacheActionHost& host, qint64 bytes, Work work) -> decltype(work())
+{
+    if (bytes < BesideWindowBytes)
+        return work();
+    auto result = std::async(std::launch::async, std::move(work));
+    while (result.wait_for(PumpEvery) != std::future_status::ready)
+        host.pumpEvents();
+    return result.get();
+}
 
 QByteArray lowered(const QByteArray& text)
 {
@@ -54,6 +77,20 @@ QByteArray uppered(const QByteArray& text)
     QByteArray out = text;
     CacheText::toUpper(out);
     return out;
+}
+
+// Every address of one file's lower-cased text, in the order the
+// harvester hands them out.
+QByteArrayList harvest(EmailScanner& scanner, const QByteArray& bytes)
+{
+    QByteArrayList found;
+    QByteArray address;
+    scanner.NextEmailAddress(lowered(bytes), address);
+    while (!address.isEmpty()) {
+        found << address;
+        scanner.NextEmailAddress(QByteArray(), address);
+    }
+    return found;
 }
 
 QString fileName(const QString& path)
@@ -204,8 +241,12 @@ CacheActionRunner::Round CacheActionRunner::beginRound(int i, bool text, QByteAr
     const bool inList = i < m_state.FoundFiles.size();
     if (text && !inList)
         return fail(CacheFailure::SubscriptOutOfRange) ? Round::Skip : Round::End;
-    if (text && CacheFileOps::readWhole(m_state.FoundFiles[i], bytes) != 0)
-        return Round::Skip;
+    if (text) {
+        const QString& path = m_state.FoundFiles[i];
+        if (besideWindow(m_host, QFileInfo(path).size(),
+                         [&] { return CacheFileOps::readWhole(path, bytes); }) != 0)
+            return Round::Skip;
+    }
     if (m_state.StopRequested) {
         m_state.StopRequested = false;
         endRun();
@@ -259,11 +300,17 @@ bool CacheActionRunner::printLines(CacheOutputFile& file, const QByteArrayList& 
 // output folder.
 bool CacheActionRunner::writeCopy(const QString& name, const QByteArray& text)
 {
-    CacheOutputFile file;
-    if (!openOutput(file, UniqueFileName(m_state.OutDir + name)) || !print(file, text))
-        return false;
-    const int failure = file.close();
-    return failure == 0 || fail(failure);
+    const QString target = UniqueFileName(m_state.OutDir + name);
+    // The three steps run to their end and their failures are then judged in
+    // order: a run that ends at one of them closes the file all the same.
+    const QVector<int> failures = besideWindow(m_host, text.size(), [&] {
+        CacheOutputFile file;
+        return QVector<int>{file.open(target), file.print(text), file.close()};
+    });
+    for (int failure : failures)
+        if (failure && !fail(failure))
+            return false;
+    return true;
 }
 
 void CacheActionRunner::copyFiles()
@@ -271,7 +318,9 @@ void CacheActionRunner::copyFiles()
     eachRound(false, [&](int, const QString& path, const QByteArray&) {
         const QString target = UniqueFileName(m_state.OutDir + fileName(path));
         if (!path.isEmpty())
-            if (const int error = CacheFileOps::copyFile(path, target))
+            if (const int error = besideWindow(m_host, QFileInfo(path).size(), [&] {
+                    return CacheFileOps::copyFile(path, target);
+                }))
                 fail(CacheFailure::fromErrno(error));
     });
     if (!m_ended)
@@ -467,10 +516,13 @@ void CacheActionRunner::searchOrReplace(bool replace)
     const QByteArray by = SingleByteText::encode(with);
     int count = 0;
     eachRound(true, [&](int, const QString& path, const QByteArray& bytes) {
-        if (!CacheText::contains(bytes, what))
+        if (!besideWindow(m_host, bytes.size(), [&] { return CacheText::contains(bytes, what); }))
             return;
         ++count;
-        writeCopy(fileName(path), replace ? CacheText::replaced(bytes, what, by) : bytes);
+        writeCopy(fileName(path),
+                  replace ? besideWindow(m_host, bytes.size(),
+                                         [&] { return CacheText::replaced(bytes, what, by); })
+                          : bytes);
     });
     if (m_ended)
         return;
@@ -496,14 +548,13 @@ void CacheActionRunner::findEmail()
         return;
     }
     eachRound(true, [&](int, const QString&, const QByteArray& bytes) {
-        QByteArray address;
-        m_scanner.NextEmailAddress(lowered(bytes), address);
-        while (!address.isEmpty()) {
+        const QByteArrayList addresses =
+            besideWindow(m_host, bytes.size(), [&] { return harvest(m_scanner, bytes); });
+        for (const QByteArray& address : addresses) {
             if (!m_output.isOpen() && !openOutput(m_output, target, true))
                 return;
             if (!print(m_output, address))
                 return;
-            m_scanner.NextEmailAddress(QByteArray(), address);
         }
     });
     if (!m_ended)
@@ -527,7 +578,8 @@ void CacheActionRunner::putIntoOneFile()
 void CacheActionRunner::rewriteEach(QByteArray (*change)(const QByteArray&))
 {
     eachRound(true, [&](int, const QString& path, const QByteArray& bytes) {
-        writeCopy(fileName(path), change(bytes));
+        writeCopy(fileName(path),
+                  besideWindow(m_host, bytes.size(), [&] { return change(bytes); }));
     });
     if (!m_ended)
         endRun();
@@ -538,7 +590,7 @@ void CacheActionRunner::rewriteLines(QByteArrayList (*lines)(QByteArrayView))
     eachRound(true, [&](int, const QString& path, const QByteArray& bytes) {
         CacheOutputFile file;
         if (openOutput(file, UniqueFileName(m_state.OutDir + fileName(path))) &&
-            printLines(file, lines(bytes)))
+            printLines(file, besideWindow(m_host, bytes.size(), [&] { return lines(bytes); })))
             if (const int failure = file.close())
                 fail(failure);
     });

@@ -3,6 +3,7 @@
 #include "CacheText.h"
 
 #include <cstring>
+#include <limits>
 
 struct EmailScanner::Tag
 {
@@ -216,7 +217,11 @@ bool EmailScanner::scanLinks(QByteArray& result)
             cutBefore(m_address, mark);
         trimSlashes(m_address);
         result = m_address;
-        ++FoundCount;
+        // At the top of its 16 bits the count's rise fails and is passed
+        // over: it stays there rather than wrapping to 0, which would end
+        // the scan.
+        if (FoundCount < std::numeric_limits<qint16>::max())
+            ++FoundCount;
         ScanPos = p;
         return true;
     }

@@ -167,6 +167,31 @@ private slots:
         QCOMPARE(r.outputs().size(), 4);
     }
 
+    // Files of several megabytes are worked on beside the window's thread:
+    // the same copies and addresses come out, and a stop asked for meanwhile
+    // ends the run at the next round.
+    void largeFiles()
+    {
+        QByteArray big;
+        while (big.size() < (6 << 20))
+            big += "<p>Some Text <a href=\"mailto:Big@X.com\">x</a></p>\n";
+        CacheActionRig r;
+        r.list({{"big.htm", big}, {"small.htm", "Text"}});
+        r.t.prompts.answerText("Text");
+        r.t.prompts.answerText("Words");
+        r.run(12);
+        QCOMPARE(r.output("big.htm"), QByteArray(big).replace("Text", "Words") + "\r\n");
+        QCOMPARE(r.output("small.htm"), QByteArray("Words\r\n"));
+        r.run(15);
+        QCOMPARE(r.output("CacheEmail.Txt").size(), big.count("mailto:") * 11);
+
+        r.host.onPump = [&] { r.state.StopRequested = true; };
+        r.run(13);
+        QCOMPARE(r.output("big1.htm").size(), big.size() + 2);
+        QVERIFY(!r.outputs().contains("small1.htm"));
+        QVERIFY(r.finished());
+    }
+
     // An output folder inside the listed one: the work list stays as it was
     // fixed, and the copies land only in the output folder.
     void outputInsideListedFolder()
