@@ -276,9 +276,10 @@ template <typename Work> void CacheActionRunner::eachRound(bool text, Work work)
     m_output.close();
 }
 
-bool CacheActionRunner::openOutput(CacheOutputFile& file, const QString& path, bool append)
+bool CacheActionRunner::openOutput(CacheOutputFile& file, const QString& path,
+                                   CacheOutputFile::Mode mode)
 {
-    const int failure = file.open(path, append);
+    const int failure = file.open(path, mode);
     return failure == 0 || fail(failure);
 }
 
@@ -551,7 +552,7 @@ void CacheActionRunner::findEmail()
         const QByteArrayList addresses =
             besideWindow(m_host, bytes.size(), [&] { return harvest(m_scanner, bytes); });
         for (const QByteArray& address : addresses) {
-            if (!m_output.isOpen() && !openOutput(m_output, target, true))
+            if (!m_output.isOpen() && !openOutput(m_output, target, CacheOutputFile::Append))
                 return;
             if (!print(m_output, address))
                 return;

@@ -63,7 +63,8 @@ private:
     void rewriteEach(QByteArray (*change)(const QByteArray&));
     void rewriteLines(QByteArrayList (*lines)(QByteArrayView));
 
-    bool openOutput(CacheOutputFile& file, const QString& path, bool append = false);
+    bool openOutput(CacheOutputFile& file, const QString& path,
+                    CacheOutputFile::Mode mode = CacheOutputFile::New);
     bool print(CacheOutputFile& file, const QByteArray& text);
     bool printLines(CacheOutputFile& file, const QByteArrayList& lines);
     bool writeCopy(const QString& name, const QByteArray& text);

@@ -16,11 +16,14 @@ CacheOutputFile::~CacheOutputFile()
     close();
 }
 
-int CacheOutputFile::open(const QString& path, bool append)
+int CacheOutputFile::open(const QString& path, Mode mode)
 {
     close();
-    const int mode = O_WRONLY | O_CREAT | O_CLOEXEC | (append ? O_APPEND : O_TRUNC);
-    m_fd = ::open(QFile::encodeName(path).constData(), mode, 0644);
+    int flags = O_WRONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW;
+    if (mode == New)
+        flags |= O_EXCL;
+    flags |= mode == Append ? O_APPEND : O_TRUNC;
+    m_fd = ::open(QFile::encodeName(path).constData(), flags, 0644);
     m_error = 0;
     return m_fd < 0 ? CacheFailure::fromErrno(errno) : 0;
 }

@@ -17,7 +17,16 @@ public:
     CacheOutputFile(const CacheOutputFile&) = delete;
     CacheOutputFile& operator=(const CacheOutputFile&) = delete;
 
-    int open(const QString& path, bool append = false);
+    // New makes a file that must not be there yet; Overwrite and Append take
+    // one that is. None of them follows a link at the name, so nothing is
+    // written outside the folder named.
+    enum Mode
+    {
+        New,
+        Overwrite,
+        Append
+    };
+    int open(const QString& path, Mode mode = New);
     bool isOpen() const { return m_fd >= 0; }
     int print(const QByteArray& text);
     int close();

@@ -53,7 +53,7 @@ private:
     void openPage()
     {
         m_pages.append(pageName(m_outDir, m_number));
-        m_page.open(m_pages.last());
+        m_page.open(m_pages.last(), CacheOutputFile::Overwrite);
         WriteGraphicsHeader(m_page);
     }
     void closePage()

@@ -192,6 +192,24 @@ private slots:
         QVERIFY(r.finished());
     }
 
+    // Links in the output folder that lead elsewhere are never written
+    // through: a taken name gets a number, and a page name that is a link
+    // is not opened.
+    void linksInOutputFolder()
+    {
+        CacheActionRig r;
+        const QString outside = r.t.folders.root() + "/outside/";
+        QDir().mkpath(outside);
+        r.list({{"a.txt", "a"}, {"b.gif", "1"}, {"c.gif", "2"}, {"d.gif", "3"}, {"e.gif", "4"}});
+        QVERIFY(QFile::link(outside + "a.txt", r.out() + "a.txt"));
+        QVERIFY(QFile::link(outside + "page.htm", r.out() + "CacheGraphics.htm"));
+        r.run(9);
+        QCOMPARE(r.output("a1.txt"), QByteArray("a\r\n"));
+        r.run(5);
+        QCOMPARE(r.host.pages.size(), 1);
+        QVERIFY(QDir(outside).isEmpty());
+    }
+
     // An output folder inside the listed one: the work list stays as it was
     // fixed, and the copies land only in the output folder.
     void outputInsideListedFolder()
