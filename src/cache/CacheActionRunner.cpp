@@ -118,13 +118,13 @@ void CacheActionRunner::RunCacheAction()
         m_ctx.MsgBox("You must first select an Action!");
         return;
     }
-    if (startRun())
-        runAction(m_state.SelectedAction);
+    startRun();
+    runAction(m_state.SelectedAction);
 }
 
 // Fixes the work list and the loop's limit. With a selection the limit is
 // one above the last index, so that the loop runs a round past the end.
-bool CacheActionRunner::startRun()
+void CacheActionRunner::startRun()
 {
     m_host.SaveCacheSettings();
     m_host.setControlsEnabled(false);
@@ -150,7 +150,6 @@ bool CacheActionRunner::startRun()
     else
         m_step = 100.0f / float(m_last);
     m_state.Busy = true;
-    return true;
 }
 
 void CacheActionRunner::runAction(int action)
@@ -446,7 +445,8 @@ bool CacheActionRunner::htmlToTextFile(const QString& name, const QByteArray& by
                              m_inTag, kept);
     }
     CacheOutputFile file;
-    const QString target = UniqueFileName(m_state.OutDir + name.chopped(3) + "txt");
+    const QString target =
+        UniqueFileName(m_state.OutDir + name.left(qMax(0, int(name.size()) - 3)) + "txt");
     if (const int failure = file.open(target)) {
         if (!fail(failure) || !fail(CacheFailure::BadFileNumber) ||
             !fail(CacheFailure::BadFileNumber))

@@ -40,7 +40,7 @@ private:
         End
     };
 
-    bool startRun();
+    void startRun();
     void runAction(int action);
     void endRun();
     bool fail(int number);
