@@ -42,6 +42,7 @@ enum Action
 // "Html 2 code" and "Html 2 text" leave files of this size and more empty.
 constexpr qsizetype ConversionLimit = 65000;
 constexpr int NoRepeatsLines = 9999;
+constexpr int ScratchFailures = 2; // see writeLines
 // Long loops inside one file look at the stop flag this often.
 constexpr qsizetype WalkChunk = 1 << 16;
 constexpr int LinesBetweenPumps = 64;
@@ -398,20 +399,9 @@ void CacheActionRunner::htmlToCode()
         QString name = fileName(path);
         if (name.right(3).toLower() == "htm")
             name = name.chopped(3) + "txt";
-        // The text passes through a scratch file in the output folder before
-        // its lines are written; that file is kept in memory here, and when
-        // the folder takes no file its write and its reading fail as well.
-        CacheOutputFile file;
-        const QString target = UniqueFileName(m_state.OutDir + name);
-        if (const int failure = file.open(target)) {
-            if (!fail(failure) || !fail(CacheFailure::BadFileNumber) ||
-                !fail(CacheFailure::BadFileNumber))
-                return;
-        }
         const QByteArray text = bytes.size() >= ConversionLimit ? QByteArray() : bytes;
-        if (printLines(file, CacheText::htmlToCodeLines(text, prefix)))
-            if (const int failure = file.close())
-                fail(failure);
+        writeLines(UniqueFileName(m_state.OutDir + name), CacheText::htmlToCodeLines(text, prefix),
+                   ScratchFailures);
     });
     if (!m_ended)
         endRun();
@@ -444,15 +434,27 @@ bool CacheActionRunner::htmlToTextFile(const QString& name, const QByteArray& by
         CacheText::stripTags(QByteArrayView(text).sliced(at, qMin(WalkChunk, text.size() - at)),
                              m_inTag, kept);
     }
+    return writeLines(
+        UniqueFileName(m_state.OutDir + name.left(qMax(0, int(name.size()) - 3)) + "txt"),
+        CacheText::nonBlankLines(kept), ScratchFailures);
+}
+
+// "Html 2 code" and "Html 2 text" pass their text through a scratch file in
+// the output folder before its lines are written. That file is kept in
+// memory here; when the folder takes no file, the scratch file's write and
+// its reading back fail too, and count as such (scratchFailures).
+bool CacheActionRunner::writeLines(const QString& target, const QByteArrayList& lines,
+                                   int scratchFailures)
+{
     CacheOutputFile file;
-    const QString target =
-        UniqueFileName(m_state.OutDir + name.left(qMax(0, int(name.size()) - 3)) + "txt");
     if (const int failure = file.open(target)) {
-        if (!fail(failure) || !fail(CacheFailure::BadFileNumber) ||
-            !fail(CacheFailure::BadFileNumber))
+        if (!fail(failure))
             return false;
+        for (int n = 0; n < scratchFailures; ++n)
+            if (!fail(CacheFailure::BadFileNumber))
+                return false;
     }
-    if (!printLines(file, CacheText::nonBlankLines(kept)))
+    if (!printLines(file, lines))
         return false;
     const int failure = file.close();
     return failure == 0 || fail(failure);
@@ -589,11 +591,8 @@ void CacheActionRunner::rewriteEach(QByteArray (*change)(const QByteArray&))
 void CacheActionRunner::rewriteLines(QByteArrayList (*lines)(QByteArrayView))
 {
     eachRound(true, [&](int, const QString& path, const QByteArray& bytes) {
-        CacheOutputFile file;
-        if (openOutput(file, UniqueFileName(m_state.OutDir + fileName(path))) &&
-            printLines(file, besideWindow(m_host, bytes.size(), [&] { return lines(bytes); })))
-            if (const int failure = file.close())
-                fail(failure);
+        writeLines(UniqueFileName(m_state.OutDir + fileName(path)),
+                   besideWindow(m_host, bytes.size(), [&] { return lines(bytes); }));
     });
     if (!m_ended)
         endRun();

@@ -68,6 +68,7 @@ private:
     bool print(CacheOutputFile& file, const QByteArray& text);
     bool printLines(CacheOutputFile& file, const QByteArrayList& lines);
     bool writeCopy(const QString& name, const QByteArray& text);
+    bool writeLines(const QString& target, const QByteArrayList& lines, int scratchFailures = 0);
 
     AppContext& m_ctx;
     CacheState& m_state;

@@ -1,5 +1,6 @@
 #include "CacheActionRig.h"
 #include "EngineEnvironment.h"
+#include "EngineScript.h"
 
 #include <QApplication>
 #include <QWebEnginePage>
@@ -59,19 +60,6 @@ protected:
             errors << QString("%1: %2").arg(line).arg(message);
     }
 };
-
-QString evaluate(QWebEnginePage* page, const QString& script)
-{
-    QString result;
-    bool done = false;
-    page->runJavaScript(script, [&](const QVariant& v) {
-        result = v.toString();
-        done = true;
-    });
-    if (!QTest::qWaitFor([&] { return done; }, 40000))
-        return QStringLiteral("<no answer>");
-    return result;
-}
 
 } // namespace
 
@@ -181,10 +169,10 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(loaded.size(), 1, 40000);
         QVERIFY(loaded[0][0].toBool());
         QCOMPARE(page->title(), QString("Vorlan's Cache Graphics Browse File"));
-        QCOMPARE(evaluate(page, "[document.querySelectorAll('tr').length,"
-                                " document.images.length,"
-                                " decodeURIComponent(document.images[2].src),"
-                                " document.images[7].alt].join('|')"),
+        QCOMPARE(evaluateScript(page, "[document.querySelectorAll('tr').length,"
+                                      " document.images.length,"
+                                      " decodeURIComponent(document.images[2].src),"
+                                      " document.images[7].alt].join('|')"),
                  QString("2|8|file://" + r.listed + "say \"hi\".jpg|No Picture to display!"));
         QCOMPARE(page->errors, QStringList());
     }
