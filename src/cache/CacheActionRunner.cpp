@@ -260,7 +260,8 @@ CacheActionRunner::Round CacheActionRunner::beginRound(int i, bool text, QByteAr
     return Round::Work;
 }
 
-template <typename Work> void CacheActionRunner::eachRound(bool text, Work work)
+template <typename Work>
+void CacheActionRunner::eachRound(bool text, Work work, const std::function<void()>& afterLoop)
 {
     QByteArray bytes;
     for (int i = 0; i <= m_last; ++i) {
@@ -274,6 +275,9 @@ template <typename Work> void CacheActionRunner::eachRound(bool text, Work work)
             return;
     }
     m_output.close();
+    if (afterLoop)
+        afterLoop();
+    endRun();
 }
 
 bool CacheActionRunner::openOutput(CacheOutputFile& file, const QString& path,
@@ -324,8 +328,6 @@ void CacheActionRunner::copyFiles()
                 }))
                 fail(CacheFailure::fromErrno(error));
     });
-    if (!m_ended)
-        endRun();
 }
 
 // The three renames in place. The whole path changes case, folders too, as
@@ -353,8 +355,6 @@ void CacheActionRunner::renameFiles(int action)
         if (const int error = CacheFileOps::renameNoReplace(path, target))
             fail(CacheFailure::fromErrno(error));
     });
-    if (!m_ended)
-        endRun();
 }
 
 void CacheActionRunner::writeList()
@@ -363,8 +363,6 @@ void CacheActionRunner::writeList()
         eachRound(false, [&](int, const QString& path, const QByteArray&) {
             print(m_output, SingleByteText::encode(path));
         });
-    if (!m_ended)
-        endRun();
 }
 
 // "Brws Pics " keeps the GIF and JPEG entries of the work list and builds
@@ -403,8 +401,6 @@ void CacheActionRunner::htmlToCode()
         writeLines(UniqueFileName(m_state.OutDir + name), CacheText::htmlToCodeLines(text, prefix),
                    ScratchFailures);
     });
-    if (!m_ended)
-        endRun();
 }
 
 void CacheActionRunner::htmlToText()
@@ -412,8 +408,6 @@ void CacheActionRunner::htmlToText()
     eachRound(true, [&](int, const QString& path, const QByteArray& bytes) {
         htmlToTextFile(fileName(path), bytes);
     });
-    if (!m_ended)
-        endRun();
 }
 
 // The walk over the text looks at the stop flag as it goes; a stop in the
@@ -465,8 +459,6 @@ void CacheActionRunner::noRepeats()
     eachRound(true, [&](int, const QString& path, const QByteArray& bytes) {
         noRepeatsFile(fileName(path), bytes);
     });
-    if (!m_ended)
-        endRun();
 }
 
 // The lines written are remembered for the whole run, so that a line seen
@@ -518,7 +510,7 @@ void CacheActionRunner::searchOrReplace(bool replace)
     const QByteArray what = SingleByteText::encode(search);
     const QByteArray by = SingleByteText::encode(with);
     int count = 0;
-    eachRound(true, [&](int, const QString& path, const QByteArray& bytes) {
+    const auto eachFile = [&](int, const QString& path, const QByteArray& bytes) {
         if (!besideWindow(m_host, bytes.size(), [&] { return CacheText::contains(bytes, what); }))
             return;
         ++count;
@@ -526,14 +518,13 @@ void CacheActionRunner::searchOrReplace(bool replace)
                   replace ? besideWindow(m_host, bytes.size(),
                                          [&] { return CacheText::replaced(bytes, what, by); })
                           : bytes);
+    };
+    eachRound(true, eachFile, [&] {
+        m_host.unloadProgress();
+        m_ctx.MsgBox((count ? QString::number(count) : QString()) + " files containing " + search +
+                         " !",
+                     PromptService::Information, "Copied to default output dir!");
     });
-    if (m_ended)
-        return;
-    m_host.unloadProgress();
-    m_ctx.MsgBox((count ? QString::number(count) : QString()) + " files containing " + search +
-                     " !",
-                 PromptService::Information, "Copied to default output dir!");
-    endRun();
 }
 
 // Each address found is appended as a line to "CacheEmail.Txt"; the file is
@@ -560,8 +551,6 @@ void CacheActionRunner::findEmail()
                 return;
         }
     });
-    if (!m_ended)
-        endRun();
 }
 
 // The output takes the name of the work list's first file and is made in
@@ -574,8 +563,6 @@ void CacheActionRunner::putIntoOneFile()
             return;
         print(m_output, bytes);
     });
-    if (!m_ended)
-        endRun();
 }
 
 void CacheActionRunner::rewriteEach(QByteArray (*change)(const QByteArray&))
@@ -584,8 +571,6 @@ void CacheActionRunner::rewriteEach(QByteArray (*change)(const QByteArray&))
         writeCopy(fileName(path),
                   besideWindow(m_host, bytes.size(), [&] { return change(bytes); }));
     });
-    if (!m_ended)
-        endRun();
 }
 
 void CacheActionRunner::rewriteLines(QByteArrayList (*lines)(QByteArrayView))
@@ -594,6 +579,4 @@ void CacheActionRunner::rewriteLines(QByteArrayList (*lines)(QByteArrayView))
         writeLines(UniqueFileName(m_state.OutDir + fileName(path)),
                    besideWindow(m_host, bytes.size(), [&] { return lines(bytes); }));
     });
-    if (!m_ended)
-        endRun();
 }

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QSet>
 #include <QString>
+#include <functional>
 
 class CacheActionHost;
 struct AppContext;
@@ -46,7 +47,10 @@ private:
     bool fail(int number);
     bool increm(int percent);
     Round beginRound(int i, bool text, QByteArray& bytes);
-    template <typename Work> void eachRound(bool text, Work work);
+    // The loop over the work list; at its normal end the files close,
+    // afterLoop runs and the run finishes.
+    template <typename Work>
+    void eachRound(bool text, Work work, const std::function<void()>& afterLoop = {});
 
     void copyFiles();
     void renameFiles(int action);
