@@ -5,6 +5,7 @@
 #include "browserone/BrowserOneWindows.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/frmWBOne.h"
+#include "cache/CacheActionRunner.h"
 #include "cache/CacheWindows.h"
 #include "core/AppContext.h"
 #include "core/frmAbout.h"
@@ -141,6 +142,9 @@ CacheWindows& WindowRegistry::cacheWindows()
                 m_main->navigator().frmGeoCitiesCalls(GeoCitiesCall::OnTop);
             if (m_ctx.state.gblnWBOneOnTop)
                 toggleBrowserOneOnTop();
+        };
+        links.actions = [](AppContext& ctx, CacheState& state, CacheActionHost& host) {
+            return std::unique_ptr<CacheActions>(new CacheActionRunner(ctx, state, host));
         };
         links.openViewer = [this](const QString& path) {
             netFetchWindows().frmInetgetCalls(int(InetgetCall::Viewer), path);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CacheProgressOverflow.h"
+
 #include <QString>
 #include <QStringList>
 #include <QVector>

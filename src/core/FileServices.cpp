@@ -7,16 +7,28 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+namespace {
+
+// A name is taken by anything that stands there, a link that leads nowhere
+// too: a file opened under its name would be made where the link points.
+bool nameTaken(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+} // namespace
+
 QString UniqueFileName(const QString& path)
 {
-    if (!QFileInfo::exists(path))
+    if (!nameTaken(path))
         return path;
     const int dot = path.indexOf(QLatin1Char('.'), path.lastIndexOf(QLatin1Char('/')) + 1);
     const QString base = dot < 0 ? path : path.left(dot);
     const QString extension = dot < 0 ? QString() : path.mid(dot);
     for (int n = 1;; ++n) {
         const QString candidate = base + QString::number(n) + extension;
-        if (!QFileInfo::exists(candidate))
+        if (!nameTaken(candidate))
             return candidate;
     }
 }

@@ -55,6 +55,9 @@ private slots:
         QTemporaryDir dir;
         QVERIFY(QDir(dir.path()).mkdir("out"));
         QCOMPARE(UniqueFileName(dir.path() + "/out"), dir.path() + "/out1");
+        // A link that leads nowhere takes its name as well.
+        QVERIFY(QFile::link(dir.path() + "/nowhere/x", dir.path() + "/CList.txt"));
+        QCOMPARE(UniqueFileName(dir.path() + "/CList.txt"), dir.path() + "/CList1.txt");
     }
 
     void aCopyOverAFileIsWholeOrNothing()

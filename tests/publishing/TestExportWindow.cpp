@@ -1,4 +1,5 @@
 #include "EngineEnvironment.h"
+#include "EngineScript.h"
 #include "WindowsRig.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/frmWBOne.h"
@@ -13,24 +14,6 @@
 #include <QWebEnginePage>
 #include <QWebEngineView>
 #include <QtTest>
-
-namespace {
-
-// What the page's script sees, once the engine has answered.
-QString evaluate(QWebEngineView* view, const QString& script)
-{
-    QString result;
-    bool done = false;
-    view->page()->runJavaScript(script, [&](const QVariant& v) {
-        result = v.toString();
-        done = true;
-    });
-    if (!QTest::qWaitFor([&] { return done; }, 40000))
-        return QStringLiteral("<no answer>");
-    return result;
-}
-
-} // namespace
 
 class TestExportWindow : public QObject
 {
@@ -85,10 +68,10 @@ private slots:
                                  40000);
         QTRY_COMPARE_WITH_TIMEOUT(browser->control().LocationName(),
                                   QString("Vorlan Html Link Export"), 40000);
-        QCOMPARE(evaluate(browser->WBOne(),
-                          "[document.querySelectorAll('tr').length, document.scripts.length,"
-                          " document.links[0].textContent, document.links[0].href,"
-                          " document.querySelectorAll('td')[1].textContent].join('|')"),
+        QCOMPARE(evaluateScript(browser->WBOne()->page(),
+                                "[document.querySelectorAll('tr').length, document.scripts.length,"
+                                " document.links[0].textContent, document.links[0].href,"
+                                " document.querySelectorAll('td')[1].textContent].join('|')"),
                  QString("4|0|<script>x()</script> \"Art\"|http://www.geocities.com/SoHo/Lofts/"
                          "1234/|No date available"));
     }
