@@ -143,7 +143,7 @@ private slots:
         QVERIFY(!entry->isEnabled());
         QVERIFY(!WindowsRig::topLevel<frmWait>());
         QVERIFY(w->windowTitle().startsWith("I Found "));
-        QVERIFY(!w->findChild<QPushButton*>("cmdCache[0]")->isEnabled()); // no actions yet
+        QVERIFY(w->findChild<QPushButton*>("cmdCache[0]")->isEnabled()); // the actions are wired in
 
         r.windows.ShowBrowserOne();
         QMenu* menu = r.windows.browserOne()->mnuCopy();
