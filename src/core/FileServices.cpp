@@ -60,7 +60,10 @@ bool FileReadable(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    file.readAll();
+    // Read through in pieces: a word source may be a file of a gigabyte.
+    constexpr qint64 Chunk = 1 << 20;
+    while (!file.read(Chunk).isEmpty()) {
+    }
     return file.error() == QFile::NoError;
 }
 
