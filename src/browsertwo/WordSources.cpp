@@ -12,6 +12,17 @@
 #include <QFile>
 #include <QFileInfo>
 
+// The sample is compiled into a static library, whose resources are not
+// registered on their own; this must stay outside any namespace.
+static void registerSampleResource()
+{
+    static const bool registered = [] {
+        Q_INIT_RESOURCE(wordlists);
+        return true;
+    }();
+    Q_UNUSED(registered);
+}
+
 namespace {
 
 const QString Sect2 = QLatin1String(Sect::WebBrwsrTwo);
@@ -39,6 +50,7 @@ bool WordSources::PickWordSource(const QString& text)
 
 QString WordSources::sampleFolder() const
 {
+    registerSampleResource();
     const QString sample = m_ctx.appPath + QLatin1String(SampleFile);
     if (!QFileInfo::exists(sample) &&
         QFile::copy(QStringLiteral(":/wordlists/wbtsampl.txt"), sample))
