@@ -17,8 +17,12 @@ WordListWindows::~WordListWindows()
 
 void WordListWindows::showListName()
 {
-    if (!m_listName)
+    // A dialog that has answered is gone, or about to go: each question
+    // gets a new one.
+    if (!listNameShown()) {
+        delete m_listName;
         m_listName = new frmNPListName(m_ctx.state, m_ctx.prompts, m_parent);
+    }
     m_listName->show();
     m_listName->raise();
     m_listName->activateWindow();
