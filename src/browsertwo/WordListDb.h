@@ -16,7 +16,8 @@ public:
     static constexpr const char* BackupFile = "BckWbtDB.db";
     static constexpr const char* Field = "List";
 
-    // dataPath ends in the separator.
+    // dataPath, the data folder with its trailing separator, is read at
+    // each use: the program's entry sets it after the windows are made.
     explicit WordListDb(const QString& dataPath);
 
     QString mainPath() const { return m_dataPath + QLatin1String(MainFile); }
@@ -47,6 +48,6 @@ private:
     void setAside(const QString& damaged) const;
     bool opens(const QString& path) const;
 
-    QString m_dataPath;
+    const QString& m_dataPath;
     TextDatabase m_db;
 };

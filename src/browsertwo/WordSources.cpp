@@ -40,6 +40,15 @@ WordSources::WordSources(AppContext& ctx, WordListHost& host, WordListDialogs& d
 {
 }
 
+// Each save rewrites the settings file safely, which costs more than the
+// reading of a whole word source; a value that stays is not written again.
+void WordSources::save(const char* key, const QString& value)
+{
+    const QString absent = QStringLiteral("\x01");
+    if (m_ctx.GetSetting(Sect2, key, absent) != value)
+        m_ctx.SaveSetting(Sect2, key, value);
+}
+
 bool WordSources::PickWordSource(const QString& text)
 {
     if (text.isEmpty())
@@ -87,8 +96,8 @@ bool WordSources::ReadWordSource()
         file = askFile(folder);
     if (file.isEmpty())
         return false;
-    m_ctx.SaveSetting(Sect2, Key::WBT_InPutFile, file);
-    m_ctx.SaveSetting(Sect2, Key::LastPath, PathBeforeLast(file, QLatin1Char('/')));
+    save(Key::WBT_InPutFile, file);
+    save(Key::LastPath, PathBeforeLast(file, QLatin1Char('/')));
     if (file.right(3).toLower() == QLatin1String("mdb"))
         return readDatabase(file, chosenAgain);
     return readTextFile(file);
@@ -100,8 +109,8 @@ bool WordSources::readDatabase(const QString& file, bool chosenAgain)
     const QString field = m_ctx.GetSetting(Sect2, Key::DBField, QString(""));
     // A file chosen anew may hold other tables: its table and field are asked.
     if (!table.isEmpty() && !field.isEmpty() && chosenAgain) {
-        m_ctx.SaveSetting(Sect2, Key::DBTable, QString(""));
-        m_ctx.SaveSetting(Sect2, Key::DBField, QString(""));
+        save(Key::DBTable, QString(""));
+        save(Key::DBField, QString(""));
     }
     m_ctx.state.gstrMdbResult.clear();
     MdbChooser chooser(m_ctx, m_host, [this](MdbChooser& c) { m_dialogs.showMdb(c); });
@@ -111,10 +120,10 @@ bool WordSources::readDatabase(const QString& file, bool chosenAgain)
 
 bool WordSources::readTextFile(const QString& file)
 {
-    m_ctx.SaveSetting(Sect2, Key::DBTable, QString(""));
-    m_ctx.SaveSetting(Sect2, Key::DBField, QString(""));
+    save(Key::DBTable, QString(""));
+    save(Key::DBField, QString(""));
     if (!FileReadable(file)) {
-        m_ctx.SaveSetting(Sect2, Key::WBT_InPutFile, QString(""));
+        save(Key::WBT_InPutFile, QString(""));
         return false;
     }
     QString error;

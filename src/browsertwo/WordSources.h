@@ -28,6 +28,7 @@ public:
     static void errorNotice(AppContext& ctx, const QString& description);
 
 private:
+    void save(const char* key, const QString& value);
     QString askFile(const QString& folder) const;
     bool readDatabase(const QString& file, bool chosenAgain);
     bool readTextFile(const QString& file);
