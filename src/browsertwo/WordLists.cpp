@@ -30,6 +30,10 @@ bool WordLists::OpenWordListDb()
 // running; a dialog closed without one counts as Cancel.
 QString WordLists::askListName()
 {
+    // One question at a time: a second Add while the dialog waits is Cancel.
+    if (m_asking)
+        return Aborted;
+    m_asking = true;
     QString& answer = m_ctx.state.gstrNewListName;
     answer.clear();
     m_dialogs.showListName();
@@ -37,16 +41,13 @@ QString WordLists::askListName()
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     const QString name = answer.isEmpty() ? Aborted : answer;
     answer.clear();
+    m_asking = false;
     return name;
 }
 
 bool WordLists::CreateWordListDb()
 {
-    if (m_asking)
-        return false;
-    m_asking = true;
     const QString name = askListName();
-    m_asking = false;
     if (name == Aborted)
         return false;
     try {
@@ -117,7 +118,7 @@ QString WordLists::refusal() const
 
 bool WordLists::AddWordList()
 {
-    if (m_asking || !m_db.isOpen())
+    if (!m_db.isOpen())
         return false;
     try {
         const QString refused = refusal();
@@ -125,14 +126,11 @@ bool WordLists::AddWordList()
             m_ctx.MsgBox(refused, PromptService::Information, QStringLiteral("Terminating"));
             return false;
         }
-        m_asking = true;
         const QString name = askListName();
-        m_asking = false;
         if (name == Aborted)
             return false;
         m_db.addList(name, m_ctx.state.gstrSites);
     } catch (const DbError& e) {
-        m_asking = false;
         WordSources::errorNotice(m_ctx, QString::fromStdString(e.what()));
         return false;
     }

@@ -1,22 +1,14 @@
+#include "ChildRun.h"
 #include "JetWriter.h"
 #include "WordListRig.h"
 #include "core/SettingsKeys.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QSqlQuery>
 #include <QtTest>
 
 namespace {
-
-QString run(const QString& program, const QStringList& args)
-{
-    QProcess p;
-    p.start(program, args);
-    p.waitForFinished(30000);
-    return QString::fromUtf8(p.readAllStandardOutput());
-}
 
 const QString Two = QString(Sect::WebBrwsrTwo);
 
@@ -174,8 +166,9 @@ private slots:
     {
         WordListRig r;
         const QString file = accessFile(r);
-        QVERIFY(run("mdb-tables", {"-1", file}).split('\n').contains("Members"));
-        QVERIFY(run("mdb-export", {file, "Members"}).contains("\"Twenty chars exactly\",\"c\""));
+        QVERIFY(ChildRun::of("mdb-tables", {"-1", file}).out.split('\n').contains("Members"));
+        QVERIFY(ChildRun::of("mdb-export", {file, "Members"})
+                    .out.contains("\"Twenty chars exactly\",\"c\""));
 
         r.dialogs.playMdb = [](MdbChooser& c) {
             QCOMPARE(c.cmbTables.items(), QStringList({"Members", "Other"}));
