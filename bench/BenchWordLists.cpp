@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <algorithm>
 #include <cstdio>
 
@@ -48,5 +49,20 @@ int main(int argc, char* argv[])
     std::printf("word lists (%d rounds, 9,998 words)\n", rounds);
     report("read a text word source", text);
     report("load a stored word list", stored);
+
+    // A huge source with no word in it is read to its end.
+    const QByteArray item("longlonglonglonglonglong,\r\n");
+    QFile huge(file);
+    if (!huge.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return 1;
+    const QByteArray block = item.repeated((1 << 20) / item.size());
+    for (int i = 0; i < 256; ++i)
+        huge.write(block);
+    huge.close();
+    QElapsedTimer clock;
+    clock.start();
+    if (!r.lists->PickWordSource(QString()) || r.t.state.gstrSites.size() != 1)
+        return 1;
+    std::printf("  read a 256 MB source without a word  %6.0f ms\n", clock.nsecsElapsed() / 1e6);
     return 0;
 }
