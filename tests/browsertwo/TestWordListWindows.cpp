@@ -8,7 +8,6 @@
 
 #include <QComboBox>
 #include <QDir>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScopeGuard>
@@ -62,7 +61,6 @@ private slots:
             QCOMPARE(dialog->windowTitle(), QString("New List Name"));
             QCOMPARE(WidgetChecks::unnamedControls(dialog), QStringList());
             QLineEdit* box = dialog->txtNLName();
-            QCOMPARE(box->objectName(), QString("txtNLName"));
             QTest::keyClicks(box, "My list-1!#");
             QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, QString("\u00e9"), {});
             QTest::keyClick(box, Qt::Key_Return);
@@ -117,7 +115,6 @@ private slots:
             auto* tables = dialog->findChild<QComboBox*>("cmbTables");
             auto* fields = dialog->findChild<QComboBox*>("cmbName");
             QVERIFY(tables && fields);
-            QCOMPARE(qobject_cast<QLabel*>(dialog->findChild<QLabel*>())->text(), QString("Table"));
             // Typing does not choose: keyboard search would pick "Names".
             tables->setFocus();
             QTest::keyClick(tables, Qt::Key_N);

@@ -34,12 +34,10 @@ public:
 
     QStringList names;
     std::function<void(MdbChooser&)> playMdb;
-    int listNameCount = 0;
     int mdbCount = 0;
 
     void showListName() override
     {
-        ++listNameCount;
         if (names.isEmpty())
             return;
         ListNameRules rules(m_state, m_prompts);
