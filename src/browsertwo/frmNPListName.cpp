@@ -56,12 +56,13 @@ frmNPListName::frmNPListName(SharedState& state, PromptService& prompts, QWidget
 bool frmNPListName::eventFilter(QObject* watched, QEvent* event)
 {
     // Only keys that type a character are judged; arrows, Delete and Tab
-    // move about as usual.
+    // edit and move about as usual.
     if (watched == m_name && event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
         const QString text = key->text();
-        const bool moving = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
-        if (!moving && !text.isEmpty() && !ListNameRules::keyPasses(text.at(0)))
+        const bool editing = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab ||
+                             key->key() == Qt::Key_Delete;
+        if (!editing && !text.isEmpty() && !ListNameRules::keyPasses(text.at(0)))
             return true;
     }
     return QDialog::eventFilter(watched, event);
