@@ -137,6 +137,7 @@ private slots:
         QVERIFY(QFile::remove(main(r)));
         QVERIFY(r.lists->OpenWordListDb());
         QCOMPARE(r.lists->FillListNames(), QStringList({"original"}));
+        QVERIFY(r.t.prompts.shown.isEmpty());
         r.lists->release();
 
         // A damaged file is kept aside, not overwritten.
