@@ -61,15 +61,46 @@ JetSource::JetSource(const QString& path) : m_handle(std::make_unique<Handle>())
 
 JetSource::~JetSource() = default;
 
-QVector<QStringList> JetSource::readAll(const QString& table, const QStringList& fields)
+JetSource::TableDef JetSource::openTable(const QString& table)
 {
     QByteArray name = table.toUtf8();
     MdbTableDef* def = mdb_read_table_by_name(m_handle->mdb, name.data(), MDB_TABLE);
     if (!def)
         fail(QStringLiteral("No table ") + table);
-    std::unique_ptr<MdbTableDef, void (*)(MdbTableDef*)> owned(def, &mdb_free_tabledef);
+    TableDef owned(def, &mdb_free_tabledef);
     if (!mdb_read_columns(def))
         fail(QStringLiteral("No columns in ") + table);
+    return owned;
+}
+
+QStringList JetSource::tableNames()
+{
+    // The catalog read at the opening holds the system tables as tables too.
+    QStringList names;
+    GPtrArray* catalog = m_handle->mdb->catalog;
+    for (guint i = 0; catalog && i < catalog->len; ++i) {
+        const auto* entry = static_cast<const MdbCatalogEntry*>(g_ptr_array_index(catalog, i));
+        if (entry->object_type == MDB_TABLE)
+            names.append(QString::fromUtf8(entry->object_name));
+    }
+    return names;
+}
+
+QVector<SourceField> JetSource::fieldsOf(const QString& table)
+{
+    const TableDef def = openTable(table);
+    QVector<SourceField> fields;
+    for (guint i = 0; i < def->columns->len; ++i) {
+        const auto* column = static_cast<const MdbColumn*>(g_ptr_array_index(def->columns, i));
+        fields.append({QString::fromUtf8(column->name), column->col_type == MDB_TEXT});
+    }
+    return fields;
+}
+
+QVector<QStringList> JetSource::readAll(const QString& table, const QStringList& fields)
+{
+    const TableDef owned = openTable(table);
+    MdbTableDef* def = owned.get();
 
     const size_t bindSize = m_handle->mdb->bind_size;
     QVector<QByteArray> values(fields.size(), QByteArray(int(bindSize) + 1, '\0'));

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <memory>
 
+struct S_MdbTableDef; // mdbtools' table definition
+
 // An Access (Jet 3 or 4) file of the old program, read through mdbtools.
 class JetSource : public SourceDatabase
 {
@@ -20,8 +22,14 @@ public:
     JetSource& operator=(const JetSource&) = delete;
 
     QVector<QStringList> readAll(const QString& table, const QStringList& fields) override;
+    QStringList tableNames() override;
+    QVector<SourceField> fieldsOf(const QString& table) override;
 
 private:
+    using TableDef = std::unique_ptr<S_MdbTableDef, void (*)(S_MdbTableDef*)>;
+    // The table with its columns read; throws DbError when it is missing.
+    TableDef openTable(const QString& table);
+
     struct Handle; // mdbtools' handle of the open file
     std::unique_ptr<Handle> m_handle;
 };

@@ -11,6 +11,8 @@ public:
     explicit SqliteSource(const QString& path);
 
     QVector<QStringList> readAll(const QString& table, const QStringList& fields) override;
+    QStringList tableNames() override;
+    QVector<SourceField> fieldsOf(const QString& table) override;
 
 private:
     TextDatabase m_db;

@@ -205,6 +205,24 @@ bool TextDatabase::hasTable(const QString& table) const
     return query.next();
 }
 
+QStringList TextDatabase::tableNames() const
+{
+    requireOpen();
+    QSqlQuery query(handle());
+    if (!query.exec(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND "
+                                   "name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY rowid")))
+        fail(QStringLiteral("Cannot read the tables"), query.lastError());
+    QStringList names;
+    while (query.next())
+        names.append(query.value(0).toString());
+    return names;
+}
+
+void TextDatabase::dropTable(const QString& table)
+{
+    execute(QStringLiteral("DROP TABLE %1").arg(quoted(table)));
+}
+
 QVector<TextRecord> TextDatabase::readAll(const QString& table, const QStringList& fields) const
 {
     return readRecords(table, fields, QString(), QString());

@@ -54,6 +54,10 @@ public:
 
     void createTable(const QString& table, const QStringList& fields);
     bool hasTable(const QString& table) const;
+    // The names of the tables in the order they were made, the engine's own
+    // (sqlite_...) left out.
+    QStringList tableNames() const;
+    void dropTable(const QString& table);
     // Reads the whole table; throws DbError on any fault of file or table.
     // With fields given, only those, by name and in that order; a table that
     // lacks one of them is a fault.

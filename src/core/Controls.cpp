@@ -66,6 +66,20 @@ void ListControl::addItem(const QString& item)
         matchIndex();
 }
 
+void ListControl::removeItem(int index)
+{
+    if (index < 0 || index >= m_items.size())
+        return;
+    m_items.removeAt(index);
+    if (m_index == index) {
+        m_index = -1;
+        setTextSilently(QString(""));
+    } else if (m_index > index) {
+        --m_index;
+    }
+    emit itemsChanged();
+}
+
 void ListControl::clear()
 {
     m_items.clear();

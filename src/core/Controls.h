@@ -69,6 +69,8 @@ public:
     QString item(int index) const { return m_items.value(index); }
     QStringList items() const { return m_items; }
     void addItem(const QString& item);
+    // Removes one entry; the selection, if it was that entry, goes with it.
+    void removeItem(int index);
     // Empties the list and the text; Change fires if there was text.
     void clear();
 

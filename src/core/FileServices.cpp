@@ -72,10 +72,15 @@ bool FileReadable(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    // Text input of the classic kind ends at the first end-of-file byte
-    // (Ctrl+Z): a file holding one does not read whole as text.
-    const QByteArray bytes = file.readAll();
-    return file.error() == QFile::NoError && !bytes.contains('\x1a');
+    // Read through in pieces, since a word source may be a file of a
+    // gigabyte. Text input of the classic kind ends at the first end-of-file
+    // byte (Ctrl+Z): a file holding one does not read whole as text.
+    constexpr qint64 Chunk = 1 << 20;
+    for (QByteArray piece = file.read(Chunk); !piece.isEmpty(); piece = file.read(Chunk)) {
+        if (piece.contains('\x1a'))
+            return false;
+    }
+    return file.error() == QFile::NoError;
 }
 
 QString ReplaceByCopy(const QString& from, const QString& to)
