@@ -74,6 +74,10 @@ public:
     void runInTransaction(const std::function<void()>& work);
     void remove(const QString& table, qint64 rowid);
     void removeAll(const QString& table);
+    // Sets one field of one record; a text over the length limit throws.
+    void update(const QString& table, qint64 rowid, const QString& field, const QString& value);
+    // Takes the table out of the file, with its records; none is no fault.
+    void dropTable(const QString& table);
     void removeWhere(const QString& table, const QString& keyField, const QString& key);
 
     QSqlDatabase handle() const;

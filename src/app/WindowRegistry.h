@@ -11,6 +11,7 @@
 struct AppContext;
 class BrowserOneWindows;
 class NetFetchWindows;
+class OptionsWindows;
 class PublishingWindows;
 class frmGeoCities;
 class frmWBOLinks;
@@ -52,6 +53,7 @@ private:
     BrowserOneWindows& browserOneWindows();
     NetFetchWindows& netFetchWindows();
     PublishingWindows& publishingWindows();
+    OptionsWindows& optionsWindows();
     // The tree window's width in twips, 0 while it is not open.
     int treeWidthTwips() const;
 
@@ -61,4 +63,5 @@ private:
     std::unique_ptr<BrowserOneWindows> m_browserOne;
     std::unique_ptr<NetFetchWindows> m_netFetch;
     std::unique_ptr<PublishingWindows> m_publishing;
+    std::unique_ptr<OptionsWindows> m_options;
 };
