@@ -147,16 +147,29 @@ void CatalogueEditor::RemoveSuburbClick()
                     QStringLiteral("you manually replace these Suburbs.")},
                    QStringLiteral("Basic Neighborhood's Suburb!"), true))
         return;
+    runDeletion(
+        QStringLiteral("Suburb"), [this](QStringList& deleted) { deleteSuburb(deleted); },
+        &CatalogueEditor::NClick);
+}
+
+// A deletion runs as one transaction with the controls off; then the lists
+// are read again and the deleted names shown. A failure changes nothing.
+void CatalogueEditor::runDeletion(const QString& what,
+                                  const std::function<void(QStringList&)>& work,
+                                  void (CatalogueEditor::*refresh)())
+{
     m_enable(false);
     QStringList deleted;
     try {
-        deleteSuburb(deleted);
+        m_ctx.gdbMain.runInTransaction([&] { work(deleted); });
     } catch (const std::exception& e) {
         deleted.clear();
-        m_ctx.MsgBox(QStringLiteral("The Suburb could not be deleted: ") +
+        m_ctx.MsgBox(QStringLiteral("The %1 could not be deleted: ").arg(what) +
                      QString::fromUtf8(e.what()));
     }
-    NClick();
+    if (!deleted.isEmpty())
+        blnCatalogueChanged = true;
+    (this->*refresh)();
     m_enable(true);
     if (!deleted.isEmpty())
         showDeleted(deleted);
@@ -175,7 +188,6 @@ void CatalogueEditor::deleteSuburb(QStringList& deleted)
     for (const TextRecord& row : subs) {
         if (Vb::Val(NullToEmpty(row.fields.value(0))) == position &&
             NullToEmpty(row.fields.value(1)) == cmbS.text()) {
-            blnCatalogueChanged = true;
             deleted.append(cmbS.text());
             m_ctx.gdbMain.remove(tableName(intSuburbTable), row.rowid);
             return;
@@ -194,24 +206,14 @@ void CatalogueEditor::RemoveNeighborhoodClick()
         m_ctx.MsgBox(QStringLiteral("Can not delete basic Neighborhoods!"));
         return;
     }
-    m_enable(false);
-    QStringList deleted;
-    try {
-        m_ctx.gdbMain.runInTransaction([&] { deleteNeighborhood(index + 1, deleted); });
-        blnCatalogueChanged = true;
-    } catch (const std::exception& e) {
-        deleted.clear();
-        m_ctx.MsgBox(QStringLiteral("The Neighborhood could not be deleted: ") +
-                     QString::fromUtf8(e.what()));
-    }
-    ServerClick();
-    m_enable(true);
-    if (!deleted.isEmpty())
-        showDeleted(deleted);
+    runDeletion(
+        QStringLiteral("Neighborhood"),
+        [this, index](QStringList& deleted) { deleteNeighborhood(index + 1, deleted); },
+        &CatalogueEditor::ServerClick);
 }
 
-// One transaction: the row, its Suburbs, and the renumbering of the later
-// Suburbs, so that a failure leaves every Suburb under its Neighborhood.
+// The row, its Suburbs, and the renumbering of the later Suburbs, in the
+// one transaction that leaves every Suburb under its Neighborhood.
 void CatalogueEditor::deleteNeighborhood(int position, QStringList& deleted)
 {
     TextDatabase& db = m_ctx.gdbMain;

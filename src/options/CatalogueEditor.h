@@ -56,6 +56,8 @@ private:
     void resetTips();
     QString tableName(int row) const;
     QString field(int row, int column) const;
+    void runDeletion(const QString& what, const std::function<void(QStringList&)>& work,
+                     void (CatalogueEditor::*refresh)());
     void deleteSuburb(QStringList& deleted);
     void deleteNeighborhood(int position, QStringList& deleted);
     void showDeleted(const QStringList& deleted);

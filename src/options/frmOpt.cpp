@@ -163,6 +163,7 @@ void frmOpt::buildAdvanced()
     m_limit = new QLineEdit(p);
     ControlBinder::bind(r.txtLimit, m_limit);
     m_limit->setAccessibleName(r.Label6.text());
+    m_limit->setReadOnly(true); // the slider sets it; no key or paste does
     m_limit->installEventFilter(this);
     g->addWidget(m_limit, 7, 1);
     g->addWidget(label(r.Label7, p), 7, 2);
