@@ -144,8 +144,13 @@ OptionsWindows& WindowRegistry::optionsWindows()
                 browser->rules().tmrLimit.setInterval(std::max(milliseconds, 0));
         };
         links.browserOneOnTop = [this] { toggleBrowserOneOnTop(); };
+        // A mirror not yet placed is asked for, as the Tools menu does.
         links.choosePageSource = [this](PageSource source) {
-            m_main->navigator().archiveMenu().choose(source);
+            Navigator& nav = m_main->navigator();
+            if (source == PageSource::LocalMirror && nav.pageSources().localMirror.isEmpty())
+                nav.archiveMenu().MirrorClick();
+            else
+                nav.archiveMenu().choose(source);
         };
         m_options = std::make_unique<OptionsWindows>(m_ctx, m_main->navigator(), links);
     }
