@@ -335,6 +335,33 @@ private slots:
         QCOMPARE(r.t.ctx.GetSetting("AdvOpt", "UsaRNS"), QString("1"));
     }
 
+    // Only the region in use is read and written, whatever the Add/Remove
+    // tab shows.
+    void randNavEditsTheRegionInUse()
+    {
+        OptionsRig r;
+        r.start();
+        r.t.state.gblnJapan = true;
+        r.t.ctx.SaveSetting("AdvOpt", "UsaRNS", "1");
+        r.nav.LoadCatalogue();
+        OptionsDialog& d = r.open();
+        RandNavEditor& e = d.randNav;
+        QCOMPARE(d.catalogue.cmbServer.listIndex(), 1);
+        QCOMPARE(e.lstRNS[1].listCount(), 14);
+        QVERIFY(!e.chkUseSelected.isChecked());
+        d.catalogue.cmbServer.userSelect(0);
+        e.lstRNS[1].userSelect(3);
+        e.cmdRandNavAdd[0].click();
+        OptionsRig::setCheck(e.chkUseSelected, true);
+        d.cmdOk.click();
+        QCOMPARE(FieldTexts(r.t.db.readAll("JapanMisc")),
+                 QVector<QStringList>{{e.lstRNS[1].item(3)}});
+        QCOMPARE(r.t.db.recordCount("UsaMisc"), 0);
+        QVERIFY(r.t.state.gblnJapanRNS && r.t.state.gblnUsaRNS);
+        QCOMPARE(r.t.ctx.GetSetting("AdvOpt", "JapanRNS"), QString("1"));
+        QCOMPARE(r.t.ctx.GetSetting("AdvOpt", "UsaRNS"), QString("1"));
+    }
+
     void ctrlTabCyclesAndResetShowsOnTheBrowserTwoTabs()
     {
         OptionsRig r;
