@@ -1,5 +1,6 @@
 #include "SwsEditor.h"
 
+#include "FieldFit.h"
 #include "addressdata/TextDatabase.h"
 #include "browsertwo/ServersWithSuburbs.h"
 #include "core/AppContext.h"
@@ -105,6 +106,8 @@ void SwsEditor::AddServerClick()
         m_ctx.MsgBox(QString::fromLatin1(NoSuburb));
         return;
     }
+    if (!FitsField(m_ctx.prompts, server) || !FitsField(m_ctx.prompts, suburb))
+        return;
     SwsTable& sws = m_ctx.state.gstrSWS;
     int row = 1;
     while (row <= SwsTable::MaxServers && !sws.at(row, 0).isEmpty())
@@ -150,6 +153,8 @@ void SwsEditor::AddSuburbClick()
         if (answer != PromptService::No)
             return;
     }
+    if (!FitsField(m_ctx.prompts, txtSWSSub.text()))
+        return;
     SwsTable& sws = m_ctx.state.gstrSWS;
     int col = 1;
     while (col <= SwsTable::MaxSuburbs && !sws.at(row, col).isEmpty())

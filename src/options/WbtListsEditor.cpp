@@ -1,5 +1,6 @@
 #include "WbtListsEditor.h"
 
+#include "FieldFit.h"
 #include "OptionsHost.h"
 #include "addressdata/TextDatabase.h"
 #include "browsertwo/WbtBuiltIns.h"
@@ -115,6 +116,8 @@ void WbtListsEditor::AddClick(int index)
     ListControl& list = index == 0 ? cmbWBTAddServer : cmbWBTAddBadTitles;
     if (index == 0)
         text = text.remove(QLatin1Char(' ')).toLower();
+    if (!FitsField(m_ctx.prompts, text))
+        return;
     for (const QString& entry : list.items())
         if (entry.contains(text, Qt::CaseSensitive)) {
             m_ctx.MsgBox(index == 0 ? QStringLiteral("This Server's URL already exists!")

@@ -1,6 +1,7 @@
 #include "OptionsRig.h"
 #include "browsertwo/ServersWithSuburbs.h"
 
+#include <QSqlQuery>
 #include <QtTest>
 
 namespace {
@@ -282,6 +283,49 @@ private slots:
         QCOMPARE(r.t.db.recordCount("SWS_Servers"), 3);
         QCOMPARE(d.sws.cboWBTSWS.listCount(), 3);
         QCOMPARE(d.sws.cboWBTSWS.item(1), TerraVista);
+    }
+
+    // Quotes and markup are stored as typed; a text no field can hold is
+    // refused at once, and the rewrite at Ok stays whole.
+    void oddTextsAreStoredOrRefusedClearly()
+    {
+        OptionsRig r;
+        OptionsDialog& d = r.open();
+        const QString tooLong = "http://" + QString(300, 'x');
+        typeAndAdd(d.wbt, 1, "It's \"gone\" <b>404</b>");
+        typeAndAdd(d.wbt, 1, QString(300, 't'));
+        typeAndAdd(d.wbt, 0, tooLong);
+        typeSws(d.sws, tooLong, "sub");
+        d.sws.cmdWBTSWSAdd[0].click();
+        d.sws.cboWBTSWS.userSelect(1);
+        typeSws(d.sws, "", QString(256, 's'));
+        d.sws.cmdWBTSWSAdd[1].click();
+        QCOMPARE(r.t.prompts.messages(),
+                 QStringList(4, "This entry is too long! (255 characters at most)"));
+        d.cmdOk.click();
+        QCOMPARE(FieldTexts(r.t.db.readAll("wbtBadTitles")).last(),
+                 QStringList{"It's \"gone\" <b>404</b>"});
+        QCOMPARE(r.t.db.recordCount("wbtBadTitles"), 13);
+        QCOMPARE(r.t.db.recordCount("wbtBaseUrl"), 5);
+        QCOMPARE(r.t.db.recordCount("SWS_Servers"), 3);
+    }
+
+    void aFailedSaveLeavesTheTablesAsTheyWere()
+    {
+        OptionsRig r;
+        OptionsDialog& d = r.open();
+        const auto servers = FieldTexts(r.t.db.readAll("SWS_Servers"));
+        const int subs = r.t.db.recordCount("SWS_Subs");
+        typeSws(d.sws, "http://new.test/", "one");
+        d.sws.cmdWBTSWSAdd[0].click();
+        QSqlQuery(r.t.db.handle())
+            .exec("CREATE TRIGGER refuse BEFORE INSERT ON SWS_Subs WHEN NEW.SWS_Sub = 'one' "
+                  "BEGIN SELECT RAISE(ABORT, 'refused'); END");
+        d.cmdOk.click();
+        QCOMPARE(r.t.prompts.shown.last().title, QString("ERROR!"));
+        QCOMPARE(r.t.prompts.shown.last().text, QString("Adding SWS Data Error occurred!"));
+        QCOMPARE(FieldTexts(r.t.db.readAll("SWS_Servers")), servers);
+        QCOMPARE(r.t.db.recordCount("SWS_Subs"), subs);
     }
 
     void theBoxesFilterTheirKeys()
