@@ -359,3 +359,11 @@ void TextDatabase::removeAll(const QString& table)
 {
     execute(QStringLiteral("DELETE FROM %1").arg(quoted(table)));
 }
+
+void TextDatabase::update(const QString& table, qint64 rowid, const QString& field,
+                          const QString& value)
+{
+    execute(
+        QStringLiteral("UPDATE %1 SET %2 = ? WHERE rowid = ?").arg(quoted(table), quoted(field)),
+        {value, rowid});
+}

@@ -57,6 +57,8 @@ public:
     // The names of the tables in the order they were made, the engine's own
     // (sqlite_...) left out.
     QStringList tableNames() const;
+    // Takes the table out of the file, with its records; a missing table
+    // is a fault.
     void dropTable(const QString& table);
     // Reads the whole table; throws DbError on any fault of file or table.
     // With fields given, only those, by name and in that order; a table that
@@ -78,6 +80,8 @@ public:
     void runInTransaction(const std::function<void()>& work);
     void remove(const QString& table, qint64 rowid);
     void removeAll(const QString& table);
+    // Sets one field of one record; a text over the length limit throws.
+    void update(const QString& table, qint64 rowid, const QString& field, const QString& value);
     void removeWhere(const QString& table, const QString& keyField, const QString& key);
 
     QSqlDatabase handle() const;

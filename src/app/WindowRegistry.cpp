@@ -2,6 +2,7 @@
 
 #include "LinkImportUi.h"
 #include "addressdata/MainDatabase.h"
+#include "browserone/BrowserOne.h"
 #include "browserone/BrowserOneWindows.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/frmWBOne.h"
@@ -14,6 +15,7 @@
 #include "navigator/frmGeoCities.h"
 #include "netfetch/FileGetter.h"
 #include "netfetch/NetFetchWindows.h"
+#include "options/OptionsWindows.h"
 #include "publishing/PublishingWindows.h"
 
 #include <QWebEngineProfile>
@@ -66,11 +68,13 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
             if (m_publishing)
                 m_publishing->unloadScript();
         });
+    add(ProgramWindow::Options, [this] { optionsWindows().showOptions(); });
 }
 
 // Browser One's windows reach into the main window's rules: they go first.
 WindowRegistry::~WindowRegistry()
 {
+    m_options.reset();
     m_publishing.reset();
     m_cache.reset();
     m_netFetch.reset();
@@ -171,6 +175,39 @@ PublishingWindows& WindowRegistry::publishingWindows()
             m_main->navigator().NavigateSomeWhereElse(path);
         });
     return *m_publishing;
+}
+
+OptionsWindows& WindowRegistry::optionsWindows()
+{
+    main();
+    if (!m_options) {
+        OptionsWindows::Links links;
+        links.parent = [this] { return static_cast<QWidget*>(m_main.get()); };
+        links.reloadCatalogue = [this] { m_main->navigator().RefreshCatalogue(); };
+        links.browserOneNextButton = [this] {
+            if (frmWBOne* browser = browserOne()) {
+                BrowserOne& rules = browser->rules();
+                rules.cmdNext.setVisible(m_ctx.state.gblnShowNextButton);
+                rules.txtAddressBar.setVisible(m_ctx.state.gblnShowNextButton);
+                rules.frmWBOCalls(WBOCall::Resize);
+            }
+        };
+        links.browserOneLimit = [this](int milliseconds) {
+            if (frmWBOne* browser = browserOne())
+                browser->rules().tmrLimit.setInterval(std::max(milliseconds, 0));
+        };
+        links.browserOneOnTop = [this] { toggleBrowserOneOnTop(); };
+        // A mirror not yet placed is asked for, as the Tools menu does.
+        links.choosePageSource = [this](PageSource source) {
+            Navigator& nav = m_main->navigator();
+            if (source == PageSource::LocalMirror && nav.pageSources().localMirror.isEmpty())
+                nav.archiveMenu().MirrorClick();
+            else
+                nav.archiveMenu().choose(source);
+        };
+        m_options = std::make_unique<OptionsWindows>(m_ctx, m_main->navigator(), links);
+    }
+    return *m_options;
 }
 
 int WindowRegistry::treeWidthTwips() const

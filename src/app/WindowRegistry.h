@@ -12,6 +12,7 @@ struct AppContext;
 class BrowserOneWindows;
 class CacheWindows;
 class NetFetchWindows;
+class OptionsWindows;
 class PublishingWindows;
 class frmGeoCities;
 class frmWBOLinks;
@@ -54,6 +55,7 @@ private:
     NetFetchWindows& netFetchWindows();
     CacheWindows& cacheWindows();
     PublishingWindows& publishingWindows();
+    OptionsWindows& optionsWindows();
     // The tree window's width in twips, 0 while it is not open.
     int treeWidthTwips() const;
 
@@ -64,4 +66,5 @@ private:
     std::unique_ptr<NetFetchWindows> m_netFetch;
     std::unique_ptr<CacheWindows> m_cache;
     std::unique_ptr<PublishingWindows> m_publishing;
+    std::unique_ptr<OptionsWindows> m_options;
 };

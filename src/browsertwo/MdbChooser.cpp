@@ -140,7 +140,9 @@ int MdbChooser::readWords()
         fail(QStringLiteral("No current record."));
     if (!found->text) {
         m_ctx.MsgBox(m_field + QStringLiteral(" Is not a text data field!"));
-        cmbName.removeItem(cmbName.items().indexOf(m_field));
+        // A silent re-read has no list to take the field out of.
+        if (const int row = cmbName.items().indexOf(m_field); row >= 0)
+            cmbName.removeItem(row);
         stayOpen();
         return -1;
     }

@@ -311,12 +311,9 @@ void bind(ListControl& model, QListWidget* list)
 void bind(SliderControl& model, QSlider* slider)
 {
     slider->setObjectName(model.name());
-    {
-        const QSignalBlocker block(slider);
-        slider->setRange(model.minimum(), model.maximum());
-    }
     auto show = [&model, slider] {
         const QSignalBlocker block(slider);
+        slider->setRange(model.minimum(), model.maximum());
         slider->setValue(model.value());
         showCommon(model, slider);
     };

@@ -69,15 +69,15 @@ void ListControl::addItem(const QString& item)
 void ListControl::removeItem(int index)
 {
     if (index < 0 || index >= m_items.size())
-        return;
+        throw VbError(VbError::InvalidPropertyValue,
+                      QStringLiteral("Invalid list index %1 in %2").arg(index).arg(name()));
     m_items.removeAt(index);
-    if (m_index == index) {
+    if (index == m_index)
         m_index = -1;
-        setTextSilently(QString(""));
-    } else if (m_index > index) {
+    else if (index < m_index)
         --m_index;
-    }
     emit itemsChanged();
+    setTextSilently(m_index >= 0 ? m_items.at(m_index) : QString(""));
 }
 
 void ListControl::clear()
@@ -125,4 +125,17 @@ void SliderControl::setValue(int value)
     m_value = value;
     emit viewChanged();
     emit changed();
+}
+
+void SliderControl::setMinimum(int min)
+{
+    m_min = min;
+    if (m_max < m_min)
+        m_max = m_min;
+    const bool raised = m_value < m_min;
+    if (raised)
+        m_value = m_min;
+    emit viewChanged();
+    if (raised)
+        emit changed();
 }

@@ -69,7 +69,7 @@ public:
     QString item(int index) const { return m_items.value(index); }
     QStringList items() const { return m_items; }
     void addItem(const QString& item);
-    // Removes one entry; the selection, if it was that entry, goes with it.
+    // Takes entry index out: a selection of it ends, a later one moves up.
     void removeItem(int index);
     // Empties the list and the text; Change fires if there was text.
     void clear();
@@ -102,6 +102,8 @@ public:
     int value() const { return m_value; }
     void setValue(int value); // throws VbError 380 outside min .. max
     int minimum() const { return m_min; }
+    // A value under the new minimum is raised to it, with Change.
+    void setMinimum(int min);
     int maximum() const { return m_max; }
 
 private:

@@ -82,6 +82,22 @@ void Navigator::LoadCatalogue()
     LoadMainSettings();
 }
 
+void Navigator::RefreshCatalogue()
+{
+    const QString neighborhood = m_c.cmbNeighborhood.text();
+    const QString suburb = m_c.cmbSuburb.text();
+    m_c.cmbNeighborhood.clear();
+    ReadCatalogue(m_ctx, m_ctx.gdbMain);
+    const CatalogueData& cat = m_ctx.state.catalogue;
+    for (int i = 1; i <= cat.gintNeighborhoodCount; ++i)
+        m_c.cmbNeighborhood.addItem(cat.name(i));
+    m_c.cmbNeighborhood.setText(cat.find(neighborhood) > 0 ? neighborhood : cat.name(1));
+    m_composer.FillSuburbs();
+    if (m_c.cmbSuburb.items().contains(suburb))
+        m_c.cmbSuburb.setText(suburb);
+    m_composer.ComposeAddress();
+}
+
 void Navigator::SwitchRegionData(int code)
 {
     if (code == 2)

@@ -50,6 +50,9 @@ public:
     // The region's catalogue into the arrays and lists, then the saved links
     // and the main settings. Throws on a database or settings fault.
     void LoadCatalogue() override;
+    // The catalogue read again after an edit of its tables: the lists
+    // follow, and the Neighborhood and Suburb shown stay while they exist.
+    void RefreshCatalogue();
     void SwitchRegionData(int code);
     void LoadMainSettings();
     void SaveMainSettings();
