@@ -5,6 +5,9 @@
 #include "browserone/BrowserOneWindows.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/frmWBOne.h"
+#include "browsertwo/BrowserTwoWindows.h"
+#include "browsertwo/WordListActions.h"
+#include "browsertwo/frmWBTwo.h"
 #include "core/AppContext.h"
 #include "core/frmAbout.h"
 #include "navigator/NeighborhoodPictures.h"
@@ -18,6 +21,13 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
     add(
         ProgramWindow::BrowserOne, [this] { ShowBrowserOne(); },
         [this] { browserOneWindows().unload(); });
+    if (m_wordLists)
+        add(
+            ProgramWindow::BrowserTwo, [this] { browserTwoWindows().ShowBrowserTwo(); },
+            [this] {
+                if (m_browserTwo)
+                    m_browserTwo->unload();
+            });
     add(ProgramWindow::About, [this] {
         frmAbout about(m_ctx.prompts, NeighborhoodPictures::picture(false, 1), m_main.get());
         about.exec();
@@ -56,6 +66,7 @@ WindowRegistry::~WindowRegistry()
 {
     m_publishing.reset();
     m_netFetch.reset();
+    m_browserTwo.reset();
     m_browserOne.reset();
     m_main.reset();
 }
@@ -83,6 +94,30 @@ BrowserOneWindows& WindowRegistry::browserOneWindows()
     return *m_browserOne;
 }
 
+BrowserTwoWindows& WindowRegistry::browserTwoWindows()
+{
+    main();
+    if (!m_browserTwo) {
+        BrowserTwoWindows::Links links;
+        links.profile = [this] { return browserOneWindows().profile(); };
+        links.openPopUp = [this] { return browserOneWindows().openPopUp(); };
+        links.browsers = [this]() -> BrowserWindowList& { return browsers(); };
+        links.mainCall = [this](GeoCitiesCall code) {
+            m_main->navigator().frmGeoCitiesCalls(code);
+        };
+        links.clearTopmost = [this] {
+            if (m_ctx.state.gblnMainOnTop)
+                m_main->navigator().frmGeoCitiesCalls(GeoCitiesCall::OnTop);
+            if (m_ctx.state.gblnWBOneOnTop)
+                toggleBrowserOneOnTop();
+        };
+        links.getFileList = [this] { netFetchWindows().GetFileListMenu(3); };
+        links.splashPicture = [] { return NeighborhoodPictures::picture(false, 1); };
+        m_browserTwo = std::make_unique<BrowserTwoWindows>(m_ctx, *m_wordLists, links);
+    }
+    return *m_browserTwo;
+}
+
 NetFetchWindows& WindowRegistry::netFetchWindows()
 {
     main();
@@ -97,6 +132,8 @@ NetFetchWindows& WindowRegistry::netFetchWindows()
         };
         links.profile = [this] { return browserOneWindows().profile(); };
         links.browserControl = [this](int which) -> BrowserControl* {
+            if (which == 2)
+                return m_browserTwo ? m_browserTwo->browserControl() : nullptr;
             frmWBOne* browser = which == 1 ? browserOne() : nullptr;
             return browser ? &browser->control() : nullptr;
         };

@@ -10,8 +10,10 @@
 
 struct AppContext;
 class BrowserOneWindows;
+class BrowserTwoWindows;
 class NetFetchWindows;
 class PublishingWindows;
+class WordListActions;
 class frmGeoCities;
 class frmWBOLinks;
 class frmWBOne;
@@ -50,6 +52,7 @@ private:
     };
     void add(ProgramWindow window, std::function<void()> show, std::function<void()> unload = {});
     BrowserOneWindows& browserOneWindows();
+    BrowserTwoWindows& browserTwoWindows();
     NetFetchWindows& netFetchWindows();
     PublishingWindows& publishingWindows();
     // The tree window's width in twips, 0 while it is not open.
@@ -59,6 +62,10 @@ private:
     std::map<ProgramWindow, Entry> m_windows;
     std::unique_ptr<frmGeoCities> m_main;
     std::unique_ptr<BrowserOneWindows> m_browserOne;
+    // Browser Two's stored lists and word sources; while the program has
+    // none, "Web Browser Two" stays disabled.
+    std::unique_ptr<WordListActions> m_wordLists;
+    std::unique_ptr<BrowserTwoWindows> m_browserTwo;
     std::unique_ptr<NetFetchWindows> m_netFetch;
     std::unique_ptr<PublishingWindows> m_publishing;
 };

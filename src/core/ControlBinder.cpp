@@ -286,6 +286,7 @@ void bind(SliderControl& model, QSlider* slider)
     }
     auto show = [&model, slider] {
         const QSignalBlocker block(slider);
+        slider->setRange(model.minimum(), model.maximum());
         slider->setValue(model.value());
         showCommon(model, slider);
     };

@@ -101,6 +101,9 @@ public:
     void setValue(int value); // throws VbError 380 outside min .. max
     int minimum() const { return m_min; }
     int maximum() const { return m_max; }
+    // A new upper bound, not below the minimum. A value beyond it moves to
+    // it, with the Change of a new value.
+    void setMaximum(int max);
 
 private:
     int m_min;

@@ -1,0 +1,111 @@
+#include "BrowserTwoWindows.h"
+
+#include "WordListActions.h"
+#include "browserone/WebBrowserControl.h"
+#include "core/AppContext.h"
+#include "core/frmStartUp.h"
+#include "frmWBTwo.h"
+
+#include <QCoreApplication>
+
+BrowserTwoWindows::BrowserTwoWindows(AppContext& ctx, WordListActions& lists, Links links)
+    : m_ctx(ctx), m_lists(lists), m_links(std::move(links))
+{
+}
+
+BrowserTwoWindows::~BrowserTwoWindows()
+{
+    delete m_window;
+}
+
+frmWBTwo* BrowserTwoWindows::window() const
+{
+    return m_window;
+}
+
+BrowserControl* BrowserTwoWindows::browserControl() const
+{
+    return m_window ? &m_window->control() : nullptr;
+}
+
+void BrowserTwoWindows::ShowBrowserTwo()
+{
+    SharedState& st = m_ctx.state;
+    if (st.gblnWBTwoLoaded && m_window) {
+        m_window->showNormal();
+        m_window->raise();
+        m_window->activateWindow();
+        return;
+    }
+    if (!readWordSource())
+        return;
+    m_window = new frmWBTwo(m_ctx, m_lists, *this);
+    m_window->show();
+    if (!m_sourceName.isNull())
+        m_window->rules().WBTPassSometext(m_sourceName);
+    m_window->rules().Pseudo(m_pseudo);
+    st.gblnWBTwoLoaded = true;
+}
+
+// The words are read behind the splash window, which shows until then.
+bool BrowserTwoWindows::readWordSource()
+{
+    const QPixmap picture = m_links.splashPicture ? m_links.splashPicture() : QPixmap();
+    frmStartUp splash(m_ctx.state, picture);
+    splash.show();
+    while (!m_ctx.state.gblnStartUpShown)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    m_sourceName = QString();
+    const bool read = m_lists.PickWordSource(QString());
+    splash.close();
+    return read;
+}
+
+void BrowserTwoWindows::unload()
+{
+    if (m_window)
+        m_window->close();
+}
+
+void BrowserTwoWindows::mainCall(GeoCitiesCall code)
+{
+    if (m_links.mainCall)
+        m_links.mainCall(code);
+}
+
+void BrowserTwoWindows::getFileList()
+{
+    if (m_links.getFileList)
+        m_links.getFileList();
+}
+
+void BrowserTwoWindows::unloadLinkWindows() {}
+
+void BrowserTwoWindows::Pseudo(int count)
+{
+    if (m_window)
+        m_window->rules().Pseudo(count);
+}
+
+// A name given before the walker is made waits for it.
+void BrowserTwoWindows::WBTPassSometext(const QString& name)
+{
+    m_sourceName = name;
+    if (m_window)
+        m_window->rules().WBTPassSometext(name);
+}
+
+// Kept for the opening of the walker; a source read afresh while it is open
+// goes to it at once.
+void BrowserTwoWindows::GPysuedo(int count)
+{
+    m_pseudo = count;
+    if (m_window && m_window->rules().WindowReady)
+        m_window->rules().Pseudo(count);
+}
+
+void BrowserTwoWindows::clearTopmost()
+{
+    if (m_links.clearTopmost)
+        m_links.clearTopmost();
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "WordListHost.h"
+#include "navigator/MainWindowCalls.h"
+
+#include <QObject>
+#include <QPixmap>
+#include <QPointer>
+#include <functional>
+
+struct AppContext;
+class BrowserControl;
+class BrowserWindowList;
+class QWebEnginePage;
+class QWebEngineProfile;
+class WordListActions;
+class frmWBTwo;
+
+// Browser Two's windows as the program wires them in: the walker window,
+// made when the Navigator's "Web Browser Two" opens it, with the word
+// source read first. The word lists call back through WordListHost.
+class BrowserTwoWindows : public QObject, public WordListHost
+{
+    Q_OBJECT
+public:
+    // What Browser Two borrows from the rest of the program.
+    struct Links
+    {
+        // The browser windows' engine profile, shared with Browser One.
+        std::function<QWebEngineProfile*()> profile;
+        // A new window for a page that asked for one; returns its page.
+        std::function<QWebEnginePage*()> openPopUp;
+        // The ordered list of the program's browser windows.
+        std::function<BrowserWindowList&()> browsers;
+        std::function<void(GeoCitiesCall)> mainCall;
+        // The main window and Browser One leave always-on-top.
+        std::function<void()> clearTopmost;
+        // "Get File List" of Browser Two's page; none leaves it disabled.
+        std::function<void()> getFileList;
+        // The picture of the splash window shown while the words are read.
+        std::function<QPixmap()> splashPicture;
+    };
+
+    BrowserTwoWindows(AppContext& ctx, WordListActions& lists, Links links);
+    ~BrowserTwoWindows() override;
+
+    frmWBTwo* window() const;
+    BrowserControl* browserControl() const;
+
+    // The Navigator's entry: reads the word source behind the splash
+    // window, then opens the walker on it. An open walker comes to the front.
+    void ShowBrowserTwo();
+    void unload();
+
+    // For the walker window.
+    QWebEngineProfile* profile() { return m_links.profile(); }
+    QWebEnginePage* openPopUp() { return m_links.openPopUp(); }
+    BrowserWindowList& browsers() { return m_links.browsers(); }
+    void mainCall(GeoCitiesCall code);
+    bool canGetFileList() const { return bool(m_links.getFileList); }
+    void getFileList();
+    void unloadLinkWindows();
+
+    // WordListHost
+    void Pseudo(int count) override;
+    void WBTPassSometext(const QString& name) override;
+    void GPysuedo(int count) override;
+    void clearTopmost() override;
+
+private:
+    bool readWordSource();
+
+    AppContext& m_ctx;
+    WordListActions& m_lists;
+    Links m_links;
+    QPointer<frmWBTwo> m_window;
+    int m_pseudo = 0;     // the count of the word source read at the opening
+    QString m_sourceName; // its name, for the walker's first panel
+};
