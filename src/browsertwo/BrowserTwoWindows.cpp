@@ -3,8 +3,15 @@
 #include "WordListActions.h"
 #include "browserone/WebBrowserControl.h"
 #include "core/AppContext.h"
+#include "core/PlaceWindow.h"
+#include "core/WindowPlace.h"
 #include "core/frmStartUp.h"
+#include "frmWBTLinks.h"
+#include "frmWBTNote.h"
 #include "frmWBTwo.h"
+
+#include <QListWidget>
+#include <QPlainTextEdit>
 
 #include <QCoreApplication>
 
@@ -21,6 +28,16 @@ BrowserTwoWindows::~BrowserTwoWindows()
 frmWBTwo* BrowserTwoWindows::window() const
 {
     return m_window;
+}
+
+frmWBTLinks* BrowserTwoWindows::linksWindow() const
+{
+    return m_linksWindow;
+}
+
+frmWBTNote* BrowserTwoWindows::noteWindow() const
+{
+    return m_note;
 }
 
 BrowserControl* BrowserTwoWindows::browserControl() const
@@ -79,7 +96,65 @@ void BrowserTwoWindows::getFileList()
         m_links.getFileList();
 }
 
-void BrowserTwoWindows::unloadLinkWindows() {}
+void BrowserTwoWindows::unloadLinkWindows()
+{
+    closePanel();
+    closeNote();
+}
+
+QRect BrowserTwoWindows::screenTwips() const
+{
+    return PixelsToTwips(QRect(QPoint(), AvailableScreen().size()));
+}
+
+QRect BrowserTwoWindows::panelTwips() const
+{
+    if (!m_linksWindow)
+        return QRect(0, 0, WindowPlace::MinWidth, WindowPlace::MinHeight);
+    return PixelsToTwips(QRect(m_linksWindow->pos(), m_linksWindow->size()));
+}
+
+void BrowserTwoWindows::placePanel(const QString& left, const QString& top, const QString& height,
+                                   const QString& width)
+{
+    if (!m_linksWindow && m_window)
+        m_linksWindow = new frmWBTLinks(m_window->links(), m_window);
+    if (m_linksWindow)
+        PlaceWindow(m_linksWindow, m_ctx.state, left, top, height, width, false, 0);
+}
+
+void BrowserTwoWindows::showPanel()
+{
+    if (!m_linksWindow)
+        return;
+    m_linksWindow->show();
+    m_linksWindow->raise();
+    m_linksWindow->lstWBTLinks()->setFocus();
+}
+
+void BrowserTwoWindows::closePanel()
+{
+    if (m_linksWindow)
+        m_linksWindow->close();
+}
+
+void BrowserTwoWindows::showNote()
+{
+    if (!m_note && m_window)
+        m_note = new frmWBTNote(m_window->links(), m_window);
+    if (!m_note)
+        return;
+    m_note->show();
+    m_note->raise();
+    m_note->activateWindow();
+    m_note->txtNote()->setFocus();
+}
+
+void BrowserTwoWindows::closeNote()
+{
+    if (m_note)
+        m_note->close();
+}
 
 void BrowserTwoWindows::Pseudo(int count)
 {

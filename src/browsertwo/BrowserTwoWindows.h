@@ -1,5 +1,6 @@
 #pragma once
 
+#include "WbtLinksHost.h"
 #include "WordListHost.h"
 #include "navigator/MainWindowCalls.h"
 
@@ -14,12 +15,14 @@ class BrowserWindowList;
 class QWebEnginePage;
 class QWebEngineProfile;
 class WordListActions;
+class frmWBTLinks;
+class frmWBTNote;
 class frmWBTwo;
 
 // Browser Two's windows as the program wires them in: the walker window,
 // made when the Navigator's "Web Browser Two" opens it, with the word
 // source read first. The word lists call back through WordListHost.
-class BrowserTwoWindows : public QObject, public WordListHost
+class BrowserTwoWindows : public QObject, public WordListHost, public WbtLinksHost
 {
     Q_OBJECT
 public:
@@ -45,6 +48,8 @@ public:
     ~BrowserTwoWindows() override;
 
     frmWBTwo* window() const;
+    frmWBTLinks* linksWindow() const;
+    frmWBTNote* noteWindow() const;
     BrowserControl* browserControl() const;
 
     // The Navigator's entry: reads the word source behind the splash
@@ -67,6 +72,16 @@ public:
     void GPysuedo(int count) override;
     void clearTopmost() override;
 
+    // WbtLinksHost
+    QRect screenTwips() const override;
+    QRect panelTwips() const override;
+    void placePanel(const QString& left, const QString& top, const QString& height,
+                    const QString& width) override;
+    void showPanel() override;
+    void closePanel() override;
+    void showNote() override;
+    void closeNote() override;
+
 private:
     bool readWordSource();
 
@@ -74,6 +89,8 @@ private:
     WordListActions& m_lists;
     Links m_links;
     QPointer<frmWBTwo> m_window;
+    QPointer<frmWBTLinks> m_linksWindow;
+    QPointer<frmWBTNote> m_note;
     int m_pseudo = 0;     // the count of the word source read at the opening
     QString m_sourceName; // its name, for the walker's first panel
 };

@@ -38,6 +38,7 @@ frmWBTwo::frmWBTwo(AppContext& ctx, WordListActions& lists, BrowserTwoWindows& w
     m_control = new WebBrowserControl(m_view, windows.profile());
     m_control->openWindow = [&windows] { return windows.openPopUp(); };
     m_rules = std::make_unique<BrowserTwo>(ctx, *m_control, *this, lists);
+    m_links = std::make_unique<WbtLinks>(ctx, *m_rules, *this, windows);
     ControlBinder::bindCaption(m_rules->form, this);
     buildControls();
     buildMenus();

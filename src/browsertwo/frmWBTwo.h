@@ -2,6 +2,7 @@
 
 #include "BrowserTwo.h"
 #include "BrowserTwoHost.h"
+#include "WbtLinks.h"
 
 #include <QWidget>
 #include <memory>
@@ -24,6 +25,7 @@ public:
     ~frmWBTwo() override;
 
     BrowserTwo& rules() { return *m_rules; }
+    WbtLinks& links() { return *m_links; }
     WebBrowserControl& control() { return *m_control; }
     QWebEngineView* WBTwo() const { return m_view; }
     QMenuBar* menuBar() const { return m_menuBar; }
@@ -67,5 +69,6 @@ private:
     QLineEdit* m_addressBar = nullptr;
     WebBrowserControl* m_control = nullptr;
     std::unique_ptr<BrowserTwo> m_rules;
+    std::unique_ptr<WbtLinks> m_links;
     QList<QWidget*> m_inputs;
 };

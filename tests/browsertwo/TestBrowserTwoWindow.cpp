@@ -6,6 +6,8 @@
 #include "browserone/BrowserWindowList.h"
 #include "browserone/WebBrowserControl.h"
 #include "browsertwo/BrowserTwoWindows.h"
+#include "browsertwo/frmWBTLinks.h"
+#include "browsertwo/frmWBTNote.h"
 #include "browsertwo/frmWBTwo.h"
 #include "core/Endpoints.h"
 #include "core/SettingsKeys.h"
@@ -14,7 +16,9 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSlider>
 #include <QWebEngineProfile>
@@ -213,6 +217,44 @@ private slots:
         QTest::keyClick(bar, Qt::Key_Return);
         QTRY_VERIFY_WITH_TIMEOUT(r.two().form.text().contains("Home of realone"), 20000);
         QVERIFY(!r.two().AddressBarEdited);
+    }
+
+    void savedLinksThroughTheirWindows()
+    {
+        Rig r({"ann"});
+        r.t.state.gstrDefaultNote = "note";
+        r.windows->ShowBrowserTwo();
+        auto* bar = r.child<QLineEdit>("txtAddressBar");
+        bar->setFocus();
+        QTest::keyClicks(bar, "http://members.tripod.com/~realone");
+        QTest::keyClick(bar, Qt::Key_Return);
+        QTRY_VERIFY_WITH_TIMEOUT(r.two().form.text().contains("Home of realone"), 20000);
+        QTest::mouseClick(r.child<QPushButton>("cmdWBTTools[3]"), Qt::LeftButton);
+        frmWBTNote* note = r.windows->noteWindow();
+        QVERIFY(note && note->isVisible());
+        QTRY_VERIFY(note->txtNote()->textCursor().hasSelection());
+        // Typing replaces the starting text, which was selected whole.
+        QTest::keyClicks(note->txtNote(), "Found it");
+        QTest::mouseClick(note->findChild<QPushButton*>("cmdOk"), Qt::LeftButton);
+        QTRY_VERIFY(!r.windows->noteWindow());
+        QCOMPARE(FieldTexts(r.t.db.readAll("wbtlinks")),
+                 QVector<QStringList>({{"http://members.tripod.com/~realone", "Found it"}}));
+
+        QTest::mouseClick(r.child<QPushButton>("cmdWBTTools[4]"), Qt::LeftButton);
+        frmWBTLinks* links = r.windows->linksWindow();
+        QVERIFY(links && links->isVisible());
+        QCOMPARE(links->windowTitle(), QString("0 Saved Links"));
+        QListWidget* list = links->lstWBTLinks();
+        QCOMPARE(list->count(), 1);
+        server.requested.clear();
+        const QRect item = list->visualItemRect(list->item(0));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, item.center());
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, item.center());
+        QTRY_COMPARE_WITH_TIMEOUT(wordsAsked(Endpoint::TripodBaseUrl), QStringList({"realone"}),
+                                  20000);
+        // The walker's close takes the list with it.
+        r.form()->close();
+        QTRY_VERIFY(!r.windows->linksWindow());
     }
 
     void autoWalkSkipsMissingPagesAndStopsAtTheFirstRealOne()
