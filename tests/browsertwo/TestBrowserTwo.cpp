@@ -1,4 +1,5 @@
 #include "FakeWordLists.h"
+#include "NavigatorRig.h"
 #include "ScriptedBrowser.h"
 #include "TestContext.h"
 #include "browsertwo/BrowserTwo.h"
@@ -323,6 +324,21 @@ private slots:
         r.two->cmdLists[0]->click();
         QCOMPARE(r.t.ctx.GetSetting(Sect::WebBrwsrTwo, Key::DBSiteList), QString(""));
         QCOMPARE(r.lists.calls.last(), QString("pick "));
+    }
+
+    void theMainEntryLeavesOnTopOnlyForANewWindow()
+    {
+        NavigatorRig r;
+        r.start();
+        r.host.available << ProgramWindow::BrowserTwo;
+        r.c.mnuOnTop.click();
+        r.t.state.gblnWBTwoLoaded = true;
+        r.nav.frmGeoCitiesCalls(GeoCitiesCall::BrowserTwo);
+        QVERIFY(r.t.state.gblnMainOnTop);
+        r.t.state.gblnWBTwoLoaded = false;
+        r.nav.frmGeoCitiesCalls(GeoCitiesCall::BrowserTwo);
+        QVERIFY(!r.t.state.gblnMainOnTop);
+        QCOMPARE(r.host.calls.filter("BrowserTwo").size(), 2);
     }
 
     void popUpsAndExit()
