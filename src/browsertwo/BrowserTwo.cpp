@@ -365,10 +365,14 @@ void BrowserTwo::offerWords(const QStringList& words)
     sites = {QString()};
     for (const QString& word : words)
         sites.append(word);
+    // Stepping never reaches the last entry: an empty one closes the list,
+    // so that every word offered is reached.
+    sites.append(QString());
     ActiveListName.clear();
     m_ctx.SaveSetting(Sect::WebBrwsrTwo, Key::CurrentSite, "1");
     Pseudo(sites.size());
     BarChange();
+    panels[1]->setText(QStringLiteral("Quick scan Loaded!"));
     if (!words.isEmpty())
         NavigateSomeWhereElseTwo(addressOf(CurrentWord));
 }

@@ -96,7 +96,8 @@ public:
     // The positions that stepping reaches from the current one on, in the
     // order of the walk: up to the next-to-last word.
     QStringList wordsAhead() const;
-    // Makes words the list in force, from position 1, and opens the first.
+    // Makes words the list in force, from position 1, and opens the first;
+    // stepping reaches every one of them.
     void offerWords(const QStringList& words);
 
     // Events.

@@ -9,3 +9,9 @@
 // that host, whose title is its own address: it matches the address
 // followed by the word tried.
 bool IsBadTitle(const QStringList& badTitles, const QString& word, const QString& title);
+
+// The title of a page as a browser shows it, from the start of its HTML:
+// the text of the first title element, entities decoded and white space
+// collapsed; empty when there is none. UTF-8 where the bytes are valid
+// UTF-8, otherwise Windows-1252.
+QString TitleOfHtml(const QByteArray& html);

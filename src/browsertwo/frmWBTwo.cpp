@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSlider>
 #include <QStatusBar>
@@ -39,6 +40,7 @@ frmWBTwo::frmWBTwo(AppContext& ctx, WordListActions& lists, BrowserTwoWindows& w
     m_control->openWindow = [&windows] { return windows.openPopUp(); };
     m_rules = std::make_unique<BrowserTwo>(ctx, *m_control, *this, lists);
     m_links = std::make_unique<WbtLinks>(ctx, *m_rules, *this, windows);
+    m_quickScan = std::make_unique<WbtQuickScan>(ctx, *m_rules);
     ControlBinder::bindCaption(m_rules->form, this);
     buildControls();
     buildMenus();
@@ -145,8 +147,31 @@ QWidget* frmWBTwo::buildListRow()
     for (Control* list : m_rules->cmdLists)
         button(*list, widget);
     button(m_rules->cmdUnload, widget);
-    static_cast<QHBoxLayout*>(widget->layout())->addStretch(1);
+    buildQuickScan(widget);
     return widget;
+}
+
+// The scan's button, and its progress while it runs.
+void frmWBTwo::buildQuickScan(QWidget* row)
+{
+    button(m_quickScan->cmdQuickScan, row);
+    auto* bar = new QProgressBar(row);
+    bar->setObjectName(QStringLiteral("prgQuickScan"));
+    bar->setAccessibleName(tr("Quick scan progress"));
+    bar->setTextVisible(false);
+    bar->setMaximumWidth(120);
+    auto* line = new QLabel(row);
+    ControlBinder::bind(m_quickScan->lblQuickScan, line);
+    auto show = [bar, line] { bar->setVisible(line->isVisibleTo(line->parentWidget())); };
+    connect(&m_quickScan->lblQuickScan, &Control::viewChanged, bar, show);
+    connect(m_quickScan.get(), &WbtQuickScan::progressChanged, bar, [bar](int done, int total) {
+        bar->setRange(0, std::max(total, 1));
+        bar->setValue(done);
+    });
+    row->layout()->addWidget(bar);
+    row->layout()->addWidget(line);
+    static_cast<QHBoxLayout*>(row->layout())->addStretch(1);
+    show();
 }
 
 void frmWBTwo::buildStatusBar(QVBoxLayout* layout)
@@ -185,6 +210,7 @@ void frmWBTwo::buildMenus()
         entry(tools, "mnuToolsSubs[4]", tr("Get File List"), [this] { m_windows.getFileList(); });
     fileList->setEnabled(m_windows.canGetFileList());
     entry(tools, "mnuToolsSubs[5]", tr("Reduce"), [this] { ReduceClick(); });
+    entry(tools, "mnuQuickScan", tr("Quick scan"), [this] { m_quickScan->QuickScanClick(); });
     QMenu* navigation = m_menuBar->addMenu(tr("&Navigation"));
     navigation->setObjectName(QStringLiteral("mnuNavigation"));
     const int presses[] = {BrowserTwo::Next, BrowserTwo::Prev, BrowserTwo::Back, BrowserTwo::Stop};
@@ -225,6 +251,9 @@ bool frmWBTwo::eventFilter(QObject* watched, QEvent* event)
 
 void frmWBTwo::closeEvent(QCloseEvent* event)
 {
+    // A scan still running ends with the window, without its offer.
+    m_quickScan->scan().blockSignals(true);
+    m_quickScan->scan().stop();
     m_rules->Unload();
     m_windows.browsers().remove(this);
     QWidget::closeEvent(event);

@@ -3,6 +3,7 @@
 #include "BrowserTwo.h"
 #include "BrowserTwoHost.h"
 #include "WbtLinks.h"
+#include "WbtQuickScan.h"
 
 #include <QWidget>
 #include <memory>
@@ -26,6 +27,7 @@ public:
 
     BrowserTwo& rules() { return *m_rules; }
     WbtLinks& links() { return *m_links; }
+    WbtQuickScan& quickScan() { return *m_quickScan; }
     WebBrowserControl& control() { return *m_control; }
     QWebEngineView* WBTwo() const { return m_view; }
     QMenuBar* menuBar() const { return m_menuBar; }
@@ -56,6 +58,7 @@ private:
     QWidget* buildServerRow();
     QWidget* buildButtonRow();
     QWidget* buildListRow();
+    void buildQuickScan(QWidget* row);
     void buildStatusBar(class QVBoxLayout* layout);
     void buildMenus();
     QWidget* row(Control& visibility);
@@ -70,5 +73,6 @@ private:
     WebBrowserControl* m_control = nullptr;
     std::unique_ptr<BrowserTwo> m_rules;
     std::unique_ptr<WbtLinks> m_links;
+    std::unique_ptr<WbtQuickScan> m_quickScan;
     QList<QWidget*> m_inputs;
 };

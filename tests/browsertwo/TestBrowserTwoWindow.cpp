@@ -19,6 +19,7 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSlider>
 #include <QWebEngineProfile>
@@ -255,6 +256,33 @@ private slots:
         // The walker's close takes the list with it.
         r.form()->close();
         QTRY_VERIFY(!r.windows->linksWindow());
+    }
+
+    void quickScanOffersThePagesFoundForTheWalk()
+    {
+        const QString base = QStringLiteral("http://127.0.0.1:%1/~").arg(server.serverPort());
+        Rig r({"first", "gone1", "realone", "gone2", "realtwo", "last"}, base);
+        r.t.db.append("wbtBaseUrl", {"Url"}, {{base}});
+        r.windows->ShowBrowserTwo();
+        QCOMPARE(r.two().ServerBase, base);
+        r.action("mnuToolsSubs[2]")->trigger();
+        auto* bar = r.child<QProgressBar>("prgQuickScan");
+        QVERIFY(!bar->isVisible());
+        r.t.prompts.answer(PromptService::Yes);
+        QTest::mouseClick(r.child<QPushButton>("cmdQuickScan"), Qt::LeftButton);
+        QVERIFY(bar->isVisible());
+        QTRY_COMPARE_WITH_TIMEOUT(r.t.prompts.shown.size(), 1, 20000);
+        QCOMPARE(r.t.prompts.shown[0].text, QString("2 pages found. Walk them now?"));
+        QCOMPARE(r.child<QLabel>("lblQuickScan")->text(),
+                 QString("5 of 5 done, 2 found, 0 failed"));
+        QCOMPARE(bar->value(), 5);
+        QCOMPARE(r.child<QPushButton>("cmdQuickScan")->text(), QString("Quick scan"));
+        // The words found are the walk now, every one reached by Next.
+        QTRY_VERIFY_WITH_TIMEOUT(r.two().form.text().contains("Home of realone"), 20000);
+        QTest::mouseClick(r.child<QPushButton>("cmdWBTTools[1]"), Qt::LeftButton);
+        QTRY_VERIFY_WITH_TIMEOUT(r.two().form.text().contains("Home of realtwo"), 20000);
+        QTest::mouseClick(r.child<QPushButton>("cmdWBTTools[1]"), Qt::LeftButton);
+        QCOMPARE(r.two().CurrentWord, QString("realone"));
     }
 
     void autoWalkSkipsMissingPagesAndStopsAtTheFirstRealOne()
