@@ -29,6 +29,10 @@ void QuickScan::start(const QVector<Item>& items, const QStringList& badTitles,
     m_badTitles = badTitles;
     m_options = options;
     m_options.inFlight = std::max(options.inFlight, 1);
+    const size_t managers =
+        size_t((m_options.inFlight + ConnectionsPerManager - 1) / ConnectionsPerManager);
+    while (m_managers.size() < managers)
+        m_managers.push_back(std::make_unique<QNetworkAccessManager>());
     m_results = QVector<Result>(items.size(), Result::Pending);
     m_next = m_done = m_found = m_failed = 0;
     m_lastStart = -1;
@@ -84,7 +88,9 @@ void QuickScan::launch(int index)
                          QNetworkRequest::NoLessSafeRedirectPolicy);
     request.setMaximumRedirectsAllowed(20);
     request.setTransferTimeout(m_options.timeoutMs);
-    QNetworkReply* reply = m_nam.get(request);
+    const size_t managers =
+        size_t((m_options.inFlight + ConnectionsPerManager - 1) / ConnectionsPerManager);
+    QNetworkReply* reply = m_managers[size_t(index) % managers]->get(request);
     Request& open = m_requests[reply];
     open.index = index;
     // A host that trickles bytes forever is ended by the whole request's time.
@@ -124,9 +130,17 @@ void QuickScan::complete(QNetworkReply* reply)
     const bool cut = reply->isRunning();
     const QNetworkReply::NetworkError error = reply->error();
     const bool broke = error != QNetworkReply::NoError && (error < 200 || error >= 400);
-    if (cut)
+    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (cut && status < 400) {
         reply->abort();
-    reply->deleteLater();
+        reply->deleteLater();
+    } else if (cut) {
+        // An error answer is let run out (they are short): cutting one short
+        // trips the network layer, which reports its error a second time.
+        connect(reply, &QNetworkReply::finished, reply, &QObject::deleteLater);
+    } else {
+        reply->deleteLater();
+    }
     if (!cut && broke)
         settle(request.index, Result::Failed);
     else
