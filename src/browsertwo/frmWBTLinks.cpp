@@ -1,9 +1,8 @@
 #include "frmWBTLinks.h"
 
 #include "WbtLinks.h"
-#include "browserone/LinksPanel.h"
+#include "browserone/frmWBOLinks.h"
 #include "core/ControlBinder.h"
-#include "core/PlaceWindow.h"
 #include "core/WindowPlace.h"
 
 #include <QCloseEvent>
@@ -26,11 +25,7 @@ frmWBTLinks::frmWBTLinks(WbtLinks& links, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_list);
-    const QRect screen = AvailableScreen();
-    const QRect kept =
-        LinksPanel::KeepOnScreen(PixelsToTwips(QRect(pos() - screen.topLeft(), size())),
-                                 PixelsToTwips(QRect(QPoint(), screen.size())));
-    move(screen.topLeft() + QPoint(twipsToPixels(kept.left()), twipsToPixels(kept.top())));
+    frmWBOLinks::keepOnScreen(this);
 }
 
 void frmWBTLinks::closeEvent(QCloseEvent* event)

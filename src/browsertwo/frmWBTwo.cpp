@@ -2,7 +2,7 @@
 
 #include "BrowserTwoWindows.h"
 #include "browserone/BrowserWindowList.h"
-#include "browserone/Favorites.h"
+#include "browserone/PageCommands.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/WebPage.h"
 #include "core/AppContext.h"
@@ -284,9 +284,7 @@ void frmWBTwo::stackRows()
 
 void frmWBTwo::closeWindowsAfter(int keep)
 {
-    BrowserWindowList& list = m_windows.browsers();
-    for (int i = list.count() - 1; i >= keep; --i)
-        list.quit(i);
+    m_windows.browsers().quitFrom(keep);
 }
 
 void frmWBTwo::unloadLinkWindows()
@@ -313,11 +311,7 @@ void frmWBTwo::CopyUrlClick()
 
 void frmWBTwo::SaveAsClick()
 {
-    const QString path = m_ctx.prompts.saveFileName(
-        tr("Save Web Page"), m_ctx.state.gstrDataPath + QStringLiteral("page.htm"),
-        {QStringLiteral("Web pages (*.htm *.html)")}, 0);
-    if (!path.isEmpty())
-        m_control->SaveAs(path);
+    PageCommands::SaveAs(*m_control, m_ctx.prompts, m_ctx.state.gstrDataPath);
 }
 
 void frmWBTwo::ReduceClick()
@@ -328,6 +322,5 @@ void frmWBTwo::ReduceClick()
 
 void frmWBTwo::FavoritesClick()
 {
-    Favorites::AddFavorite(m_ctx.state.gstrDataPath + QLatin1String(Favorites::FileName),
-                           m_control->LocationURL(), m_control->LocationName());
+    PageCommands::AddFavorite(*m_control, m_ctx.state.gstrDataPath);
 }
