@@ -54,8 +54,19 @@ void BrowserTwoWindows::ShowBrowserTwo()
         m_window->activateWindow();
         return;
     }
-    if (!readWordSource())
+    // The reading and the window's load yield to the event loop, where a
+    // second press of the entry must not open a second walker.
+    if (m_opening)
         return;
+    m_opening = true;
+    if (readWordSource())
+        open();
+    m_opening = false;
+}
+
+void BrowserTwoWindows::open()
+{
+    SharedState& st = m_ctx.state;
     m_window = new frmWBTwo(m_ctx, m_lists, *this);
     m_window->show();
     if (!m_sourceName.isNull())

@@ -84,6 +84,7 @@ public:
 
 private:
     bool readWordSource();
+    void open();
 
     AppContext& m_ctx;
     WordListActions& m_lists;
@@ -93,4 +94,5 @@ private:
     QPointer<frmWBTNote> m_note;
     int m_pseudo = 0;     // the count of the word source read at the opening
     QString m_sourceName; // its name, for the walker's first panel
+    bool m_opening = false;
 };

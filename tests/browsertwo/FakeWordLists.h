@@ -5,6 +5,7 @@
 #include "core/SharedState.h"
 
 #include <QMap>
+#include <functional>
 
 // Stored lists and a word source kept in memory: what the walker calls, with
 // the calls written down. Loading a list fills gstrSites and tells the host.
@@ -20,6 +21,8 @@ public:
     QStringList source; // the words of the word source
     QString sourceName = "words.txt";
     QStringList calls;
+    // Runs while the word source is read, as the user's clicks in a dialog do.
+    std::function<void()> whileReading;
 
     bool OpenWordListDb() override
     {
@@ -59,6 +62,8 @@ public:
             m_state.gstrMdbResult = text.toLower();
             return true;
         }
+        if (whileReading)
+            whileReading();
         fill(source, false);
         if (host) {
             host->GPysuedo(m_state.gstrSites.size());

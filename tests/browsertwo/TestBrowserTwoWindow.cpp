@@ -85,6 +85,14 @@ struct Rig
     QAction* action(const QString& name) { return form()->menuBar()->findChild<QAction*>(name); }
 };
 
+template <typename W> int WidgetsOf()
+{
+    int n = 0;
+    for (QWidget* top : QApplication::topLevelWidgets())
+        n += qobject_cast<W*>(top) ? 1 : 0;
+    return n;
+}
+
 } // namespace
 
 class TestBrowserTwoWindow : public QObject
@@ -126,8 +134,11 @@ private slots:
             QCOMPARE(r.lists.calls, QStringList({"pick "}));
         }
         Rig r({"ann", "bob", "cy"});
+        // A second press of the entry while the source is read opens nothing more.
+        r.lists.whileReading = [&r] { r.windows->ShowBrowserTwo(); };
         r.windows->ShowBrowserTwo();
         QVERIFY(r.form() && r.form()->isVisible());
+        QCOMPARE(WidgetsOf<frmWBTwo>(), 1);
         QVERIFY(r.t.state.gblnWBTwoLoaded);
         QVERIFY(!r.t.state.gblnStartUpShown);
         QCOMPARE(r.child<QLabel>("StatusBarWBT[3]")->text(), QString("1 of 3"));
