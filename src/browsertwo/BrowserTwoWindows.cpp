@@ -95,6 +95,12 @@ void BrowserTwoWindows::unload()
         m_window->close();
 }
 
+void BrowserTwoWindows::frmWBTCalls(WBTCall command)
+{
+    if (m_window)
+        m_window->rules().frmWBTCalls(command);
+}
+
 void BrowserTwoWindows::mainCall(GeoCitiesCall code)
 {
     if (m_links.mainCall)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "WbtCall.h"
 #include "WbtLinksHost.h"
 #include "WordListHost.h"
 #include "navigator/MainWindowCalls.h"
@@ -56,6 +57,8 @@ public:
     // window, then opens the walker on it. An open walker comes to the front.
     void ShowBrowserTwo();
     void unload();
+    // Presses the walker's buttons for another window; nothing while closed.
+    void frmWBTCalls(WBTCall command);
 
     // For the walker window.
     QWebEngineProfile* profile() { return m_links.profile(); }
