@@ -1,11 +1,16 @@
 #include "WindowRegistry.h"
 
 #include "LinkImportUi.h"
+#include "WordListHostRelay.h"
 #include "addressdata/MainDatabase.h"
+#include "browserone/BrowserControl.h"
 #include "browserone/BrowserOne.h"
 #include "browserone/BrowserOneWindows.h"
 #include "browserone/WebBrowserControl.h"
 #include "browserone/frmWBOne.h"
+#include "browsertwo/BrowserTwoWindows.h"
+#include "browsertwo/WordListWindows.h"
+#include "browsertwo/frmWBTwo.h"
 #include "cache/CacheActionRunner.h"
 #include "cache/CacheWindows.h"
 #include "core/AppContext.h"
@@ -25,6 +30,12 @@ WindowRegistry::WindowRegistry(AppContext& ctx) : m_ctx(ctx)
     add(
         ProgramWindow::BrowserOne, [this] { ShowBrowserOne(); },
         [this] { browserOneWindows().unload(); });
+    add(
+        ProgramWindow::BrowserTwo, [this] { browserTwoWindows().ShowBrowserTwo(); },
+        [this] {
+            if (m_browserTwo)
+                m_browserTwo->unload();
+        });
     add(ProgramWindow::About, [this] {
         frmAbout about(m_ctx.prompts, NeighborhoodPictures::picture(false, 1), m_main.get());
         about.exec();
@@ -78,6 +89,8 @@ WindowRegistry::~WindowRegistry()
     m_publishing.reset();
     m_cache.reset();
     m_netFetch.reset();
+    m_browserTwo.reset();
+    m_wordLists.reset();
     m_browserOne.reset();
     m_main.reset();
 }
@@ -105,6 +118,33 @@ BrowserOneWindows& WindowRegistry::browserOneWindows()
     return *m_browserOne;
 }
 
+BrowserTwoWindows& WindowRegistry::browserTwoWindows()
+{
+    main();
+    if (!m_browserTwo) {
+        BrowserTwoWindows::Links links;
+        links.profile = [this] { return browserOneWindows().profile(); };
+        links.openPopUp = [this] { return browserOneWindows().openPopUp(); };
+        links.browsers = [this]() -> BrowserWindowList& { return browsers(); };
+        links.mainCall = [this](GeoCitiesCall code) {
+            m_main->navigator().frmGeoCitiesCalls(code);
+        };
+        links.clearTopmost = [this] {
+            if (m_ctx.state.gblnMainOnTop)
+                m_main->navigator().frmGeoCitiesCalls(GeoCitiesCall::OnTop);
+            if (m_ctx.state.gblnWBOneOnTop)
+                toggleBrowserOneOnTop();
+        };
+        links.getFileList = [this] { netFetchWindows().GetFileListMenu(3); };
+        links.splashPicture = [] { return NeighborhoodPictures::picture(false, 1); };
+        m_wordListHost = std::make_unique<WordListHostRelay>();
+        m_wordLists = std::make_unique<WordListWindows>(m_ctx, *m_wordListHost, m_main.get());
+        m_browserTwo = std::make_unique<BrowserTwoWindows>(m_ctx, m_wordLists->actions(), links);
+        m_wordListHost->target = m_browserTwo.get();
+    }
+    return *m_browserTwo;
+}
+
 NetFetchWindows& WindowRegistry::netFetchWindows()
 {
     main();
@@ -119,6 +159,8 @@ NetFetchWindows& WindowRegistry::netFetchWindows()
         };
         links.profile = [this] { return browserOneWindows().profile(); };
         links.browserControl = [this](int which) -> BrowserControl* {
+            if (which == 2)
+                return m_browserTwo ? m_browserTwo->browserControl() : nullptr;
             frmWBOne* browser = which == 1 ? browserOne() : nullptr;
             return browser ? &browser->control() : nullptr;
         };
@@ -197,6 +239,14 @@ OptionsWindows& WindowRegistry::optionsWindows()
                 browser->rules().tmrLimit.setInterval(std::max(milliseconds, 0));
         };
         links.browserOneOnTop = [this] { toggleBrowserOneOnTop(); };
+        links.browserTwoReloadLists = [this] {
+            if (m_browserTwo)
+                m_browserTwo->frmWBTCalls(WBTCall::LoadServerList);
+        };
+        links.browserTwoLocationName = [this] {
+            BrowserControl* browser = m_browserTwo ? m_browserTwo->browserControl() : nullptr;
+            return browser ? browser->LocationName() : QString();
+        };
         // A mirror not yet placed is asked for, as the Tools menu does.
         links.choosePageSource = [this](PageSource source) {
             Navigator& nav = m_main->navigator();

@@ -11,9 +11,12 @@
 struct AppContext;
 class BrowserOneWindows;
 class CacheWindows;
+class BrowserTwoWindows;
 class NetFetchWindows;
 class OptionsWindows;
 class PublishingWindows;
+class WordListHostRelay;
+class WordListWindows;
 class frmGeoCities;
 class frmWBOLinks;
 class frmWBOne;
@@ -52,6 +55,7 @@ private:
     };
     void add(ProgramWindow window, std::function<void()> show, std::function<void()> unload = {});
     BrowserOneWindows& browserOneWindows();
+    BrowserTwoWindows& browserTwoWindows();
     NetFetchWindows& netFetchWindows();
     CacheWindows& cacheWindows();
     PublishingWindows& publishingWindows();
@@ -63,6 +67,10 @@ private:
     std::map<ProgramWindow, Entry> m_windows;
     std::unique_ptr<frmGeoCities> m_main;
     std::unique_ptr<BrowserOneWindows> m_browserOne;
+    // Browser Two's stored lists and word sources, made with its windows.
+    std::unique_ptr<WordListHostRelay> m_wordListHost;
+    std::unique_ptr<WordListWindows> m_wordLists;
+    std::unique_ptr<BrowserTwoWindows> m_browserTwo;
     std::unique_ptr<NetFetchWindows> m_netFetch;
     std::unique_ptr<CacheWindows> m_cache;
     std::unique_ptr<PublishingWindows> m_publishing;

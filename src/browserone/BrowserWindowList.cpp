@@ -63,3 +63,9 @@ void BrowserWindowList::quit(int index)
         }
     }
 }
+
+void BrowserWindowList::quitFrom(int keep)
+{
+    for (int i = count() - 1; i >= keep; --i)
+        quit(i);
+}

@@ -21,6 +21,8 @@ public:
     QObject* at(int index) const;
     // Closes the member at index (0-based); nothing happens if it is gone.
     void quit(int index);
+    // Closes the members from index keep on, the last first.
+    void quitFrom(int keep);
 
 private:
     struct Member

@@ -29,12 +29,16 @@ frmWBOLinks::frmWBOLinks(SavedLinks& links, LinksPanel& rules, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_list);
+    keepOnScreen(this);
+}
 
+void frmWBOLinks::keepOnScreen(QWidget* window)
+{
     const QRect screen = AvailableScreen();
-    const QRect kept =
-        LinksPanel::KeepOnScreen(PixelsToTwips(QRect(pos() - screen.topLeft(), size())),
-                                 PixelsToTwips(QRect(QPoint(), screen.size())));
-    move(screen.topLeft() + QPoint(twipsToPixels(kept.left()), twipsToPixels(kept.top())));
+    const QRect kept = LinksPanel::KeepOnScreen(
+        PixelsToTwips(QRect(window->pos() - screen.topLeft(), window->size())),
+        PixelsToTwips(QRect(QPoint(), screen.size())));
+    window->move(screen.topLeft() + QPoint(twipsToPixels(kept.left()), twipsToPixels(kept.top())));
 }
 
 void frmWBOLinks::closeEvent(QCloseEvent* event)

@@ -17,6 +17,8 @@ public:
     frmWBOLinks(SavedLinks& links, LinksPanel& rules, QWidget* parent);
 
     QListWidget* lstLinks() const { return m_list; }
+    // Moves a links window that lies partly off the screen back onto it.
+    static void keepOnScreen(QWidget* window);
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -1,7 +1,7 @@
 #include "frmWBOne.h"
 
 #include "BrowserOneWindows.h"
-#include "Favorites.h"
+#include "PageCommands.h"
 #include "WebBrowserControl.h"
 #include "WebPage.h"
 #include "core/AppContext.h"
@@ -259,9 +259,7 @@ void frmWBOne::showWalkColours(Wander::Mode mode)
 
 void frmWBOne::closeWindowsAfter(int keep)
 {
-    BrowserWindowList& list = m_windows.browsers();
-    for (int i = list.count() - 1; i >= keep; --i)
-        list.quit(i);
+    m_windows.browsers().quitFrom(keep);
 }
 
 void frmWBOne::unloadLinksPanel()
@@ -303,15 +301,10 @@ void frmWBOne::CopyLinkClick()
 
 void frmWBOne::SaveAsClick()
 {
-    const QString path = m_ctx.prompts.saveFileName(
-        tr("Save Web Page"), m_ctx.state.gstrDataPath + QStringLiteral("page.htm"),
-        {QStringLiteral("Web pages (*.htm *.html)")}, 0);
-    if (!path.isEmpty())
-        m_control->SaveAs(path);
+    PageCommands::SaveAs(*m_control, m_ctx.prompts, m_ctx.state.gstrDataPath);
 }
 
 void frmWBOne::FavoritesClick()
 {
-    Favorites::AddFavorite(m_ctx.state.gstrDataPath + QLatin1String(Favorites::FileName),
-                           m_control->LocationURL(), m_control->LocationName());
+    PageCommands::AddFavorite(*m_control, m_ctx.state.gstrDataPath);
 }

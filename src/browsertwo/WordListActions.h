@@ -26,4 +26,6 @@ public:
     // ends with WordListHost::GPysuedo and WBTPassSometext; otherwise keeps
     // the text in lower case as gstrMdbResult ("aborted" cancels).
     virtual bool PickWordSource(const QString& text) = 0;
+    // Lets go of the list database: the walker's Unload.
+    virtual void release() = 0;
 };

@@ -2,10 +2,10 @@
 
 #include "WordListDialogs.h"
 #include "WordLists.h"
+#include "frmNPListName.h"
 
 #include <QPointer>
 
-class frmNPListName;
 class QWidget;
 
 // Browser Two's word lists and word sources as the program wires them in:

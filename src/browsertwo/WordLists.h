@@ -28,7 +28,7 @@ public:
     bool PickWordSource(const QString& text) override;
 
     // Lets go of the list database, as Browser Two's window closes.
-    void release() { m_db.release(); }
+    void release() override { m_db.release(); }
     WordListDb& database() { return m_db; }
     WordSources& sources() { return m_sources; }
 

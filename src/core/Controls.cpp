@@ -2,6 +2,8 @@
 
 #include "VbRuntime.h"
 
+#include <algorithm>
+
 Control::Control(const QString& name, QObject* parent) : QObject(parent)
 {
     setObjectName(name);
@@ -113,6 +115,14 @@ void ListControl::matchIndex()
 SliderControl::SliderControl(const QString& name, int min, int max, QObject* parent)
     : Control(name, parent), m_min(min), m_max(max), m_value(min)
 {
+}
+
+void SliderControl::setMaximum(int max)
+{
+    m_max = std::max(max, m_min);
+    emit viewChanged();
+    if (m_value > m_max)
+        setValue(m_max);
 }
 
 void SliderControl::setValue(int value)

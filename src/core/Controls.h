@@ -105,6 +105,9 @@ public:
     // A value under the new minimum is raised to it, with Change.
     void setMinimum(int min);
     int maximum() const { return m_max; }
+    // A new upper bound, not below the minimum. A value beyond it moves to
+    // it, with the Change of a new value.
+    void setMaximum(int max);
 
 private:
     int m_min;

@@ -94,6 +94,9 @@ inline constexpr const char* WBT_InPutFile = "WBT_InPutFile";
 inline constexpr const char* LastPath = "LastPath";
 inline constexpr const char* DBTable = "DBTable";
 inline constexpr const char* DBField = "DBField";
+inline constexpr const char* QuickScanInFlight = "QuickScanInFlight";
+inline constexpr const char* QuickScanPerSecond = "QuickScanPerSecond";
+inline constexpr const char* QuickScanTimeout = "QuickScanTimeout";
 // CacheManager
 inline constexpr const char* FilePattern = "FilePattern";
 inline constexpr const char* GetSubDirFiles = "GetSubDirFiles";

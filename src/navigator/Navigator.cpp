@@ -337,7 +337,9 @@ void Navigator::OptionsClick()
 
 void Navigator::ShowProgramWindow(ProgramWindow window)
 {
-    releaseOnTop();
+    // An open Browser Two only comes to the front: the on-top states stay.
+    if (window != ProgramWindow::BrowserTwo || !m_ctx.state.gblnWBTwoLoaded)
+        releaseOnTop();
     m_windows.showWindow(window);
 }
 
