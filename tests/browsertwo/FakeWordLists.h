@@ -67,7 +67,7 @@ public:
             whileReading();
         fill(source, false);
         if (host) {
-            host->GPysuedo(m_state.gstrSites.size());
+            host->GPysuedo(m_state.gstrSites.size() - 1); // the words read
             host->WBTPassSometext(sourceName);
         }
         return !source.isEmpty();
@@ -80,7 +80,7 @@ public:
         for (const QString& word : words)
             m_state.gstrSites.append(word);
         if (host && tellWalker)
-            host->Pseudo(m_state.gstrSites.size());
+            host->Pseudo(m_state.gstrSites.size() - 1); // the words read
     }
 
 private:
