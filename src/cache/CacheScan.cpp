@@ -6,6 +6,7 @@
 #include "core/FileServices.h"
 #include "core/SettingsKeys.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -110,8 +111,10 @@ void CacheScan::Load()
     chkNoSubs.setChecked(!state.CollectSubs);
     state.PreviousPath =
         m_ctx.GetSetting(Sect::CacheManager, Key::PreviousPath, defaultCacheFolder(m_profileCache));
-    if (!state.PreviousPath.isEmpty())
-        dirCache.setText(state.PreviousPath.chopped(1));
+    // With no folder found the folder list stays where a folder list starts:
+    // in the program's current folder, not at the root of the file system.
+    dirCache.setText(state.PreviousPath.isEmpty() ? QDir::currentPath()
+                                                  : state.PreviousPath.chopped(1));
     state.OutDir = OutputDirectory(m_ctx);
     txtOutDir.setText(state.OutDir);
     state.CurrentDrive = QStringLiteral("/");

@@ -28,6 +28,19 @@ public:
 signals:
     void pathChosen(const QString& path);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
+    // Opens the branches down to the pending folder as far as the model has
+    // read them; the model reads folders in the background.
+    void showPending();
+    void scrollToCurrent();
+
     QFileSystemModel* m_model;
+    QString m_pending;     // the folder to show once its branch is read
+    bool m_follow = false; // the view keeps the current folder in sight until the user moves it
 };

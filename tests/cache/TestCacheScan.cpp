@@ -118,6 +118,18 @@ private slots:
         QCOMPARE(CacheScan::defaultCacheFolder(f.root()), f.root() + "/");
         QVERIFY(QDir(userCache).removeRecursively());
         QCOMPARE(CacheScan::defaultCacheFolder(f.root() + "/missing"), QString());
+        // With none of them there the folder list starts in the current
+        // folder, not at the root.
+        Rig none;
+        none.scan = std::make_unique<CacheScan>(none.t.ctx, none.host, f.root() + "/missing");
+        none.host.scan = none.scan.get();
+        QVERIFY(QDir(qEnvironmentVariable("XDG_CACHE_HOME")).removeRecursively());
+        const QString current = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(f.root()));
+        none.scan->Load();
+        QDir::setCurrent(current);
+        QCOMPARE(none.scan->dirCache.text(), f.root());
+        QCOMPARE(none.scan->state.PreviousPath, f.root() + "/");
         const QStringList all = CacheScan::cacheFolderCandidates("/p");
         QCOMPARE(all.mid(0, 3), QStringList({"C:/WINDOWS/Temporary Internet Files/Content.IE5",
                                              "C:/WINDOWS/Temporary Internet Files", "/p"}));
