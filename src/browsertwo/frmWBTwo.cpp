@@ -103,6 +103,10 @@ QPushButton* button(Control& model, QWidget* parent)
     auto* push = new QPushButton(parent);
     push->setAutoDefault(false);
     ControlBinder::bind(model, push);
+    // At the window's smallest width the rows hold more than the style's
+    // roomy buttons: they may close in on their captions.
+    push->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    push->setMinimumWidth(push->fontMetrics().horizontalAdvance(push->text()) + 8);
     parent->layout()->addWidget(push);
     return push;
 }
@@ -141,7 +145,7 @@ QWidget* frmWBTwo::buildListRow()
 {
     QWidget* widget = row(*m_rules->picTools[BrowserTwo::ListRow]);
     QComboBox* lists = combo(m_rules->cboLists, tr("Select a saved site name list"), widget);
-    lists->setMinimumContentsLength(12);
+    lists->setMinimumContentsLength(6);
     widget->layout()->addWidget(lists);
     watchFocus(lists);
     for (Control* list : m_rules->cmdLists)
