@@ -161,8 +161,10 @@ private slots:
         r.run(5);
         QCOMPARE(r.host.pages.size(), 1);
 
+        // The page outlives the view that shows it, which does not own it.
+        ErrorRecordingPage recording;
         QWebEngineView view;
-        auto* page = new ErrorRecordingPage;
+        ErrorRecordingPage* page = &recording;
         view.setPage(page);
         QSignalSpy loaded(page, &QWebEnginePage::loadFinished);
         view.load(QUrl::fromLocalFile(r.host.pages[0]));
