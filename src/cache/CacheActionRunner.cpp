@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <chrono>
 #include <future>
+#include <map>
 
 namespace {
 
@@ -527,9 +528,25 @@ void CacheActionRunner::searchOrReplace(bool replace)
     });
 }
 
+// The harvest of a file made ahead, beside the window's thread, while the
+// rounds before it run.
+struct EmailLookAhead
+{
+    bool read = false;
+    QByteArray bytes;
+    QByteArrayList found;
+};
+
 // Each address found is appended as a line to "CacheEmail.Txt"; the file is
 // kept open between addresses, where it was opened for each, which writes
 // the same.
+//
+// The next two files of the work list are read and harvested ahead on other
+// threads, each with a scanner of its own: the scanner starts afresh with
+// every text, so the answers are those of the one scanner in turn. A round
+// uses them only when it reads the same bytes itself, so the run writes
+// what the sequential one writes; files of the size that goes beside the
+// window anyway are left to their own round.
 void CacheActionRunner::findEmail()
 {
     const QString target = UniqueFileName(m_state.OutDir + "CacheEmail.Txt");
@@ -541,9 +558,41 @@ void CacheActionRunner::findEmail()
         endRun();
         return;
     }
-    eachRound(true, [&](int, const QString&, const QByteArray& bytes) {
-        const QByteArrayList addresses =
-            besideWindow(m_host, bytes.size(), [&] { return harvest(m_scanner, bytes); });
+    std::map<int, std::future<EmailLookAhead>> ahead;
+    auto readAhead = [&](int k) {
+        if (k > m_last || k >= m_state.FoundFiles.size() || ahead.count(k))
+            return;
+        const QString path = m_state.FoundFiles[k];
+        if (QFileInfo(path).size() >= BesideWindowBytes)
+            return;
+        ahead[k] = std::async(std::launch::async, [path] {
+            EmailLookAhead next;
+            next.read = CacheFileOps::readWhole(path, next.bytes) == 0;
+            if (next.read) {
+                EmailScanner scanner;
+                next.found = harvest(scanner, next.bytes);
+            }
+            return next;
+        });
+    };
+    eachRound(true, [&](int i, const QString&, const QByteArray& bytes) {
+        ahead.erase(ahead.begin(), ahead.lower_bound(i)); // rounds that were skipped
+        readAhead(i + 1);
+        readAhead(i + 2);
+        QByteArrayList addresses;
+        bool done = false;
+        if (auto made = ahead.find(i); made != ahead.end()) {
+            while (made->second.wait_for(PumpEvery) != std::future_status::ready)
+                m_host.pumpEvents();
+            EmailLookAhead next = made->second.get();
+            ahead.erase(made);
+            done = next.read && next.bytes == bytes;
+            if (done)
+                addresses = next.found;
+        }
+        if (!done)
+            addresses =
+                besideWindow(m_host, bytes.size(), [&] { return harvest(m_scanner, bytes); });
         for (const QByteArray& address : addresses) {
             if (!m_output.isOpen() && !openOutput(m_output, target, CacheOutputFile::Append))
                 return;

@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QThread>
 #include <QtTest>
 #include <fcntl.h>
 #include <unistd.h>
@@ -103,6 +104,28 @@ private slots:
         r.run(9);
         QCOMPARE(r.outputs(), QStringList({"a.txt", "c.txt"}));
         QCOMPARE(r.output("c.txt"), "c" + QByteArray(100000, 'g') + "\r\n");
+        QVERIFY(r.finished());
+    }
+
+    // Find Email reads the next files ahead: one rewritten after that is
+    // still harvested as it stands when its round comes.
+    void harvestTakesAFileAsItsRoundFindsIt()
+    {
+        CacheActionRig r;
+        r.list({{"a.htm", "<a href=mailto:a@x.com>a</a>"},
+                {"b.htm", "<a href=mailto:b@x.com>b</a>"},
+                {"c.htm", "<a href=mailto:c@x.com>c</a>"},
+                {"d.htm", "<a href=mailto:d@x.com>d</a>"}});
+        r.host.onPump = [&] {
+            if (r.host.percents.size() != 2)
+                return;
+            // Time for the file to be read ahead before it changes.
+            QThread::msleep(200);
+            putFile(r.listed + "c.htm", "<a href=mailto:new@x.com>new</a>");
+        };
+        r.run(15);
+        QCOMPARE(r.output("CacheEmail.Txt"),
+                 QByteArray("a@x.com\r\nb@x.com\r\nnew@x.com\r\nd@x.com\r\n"));
         QVERIFY(r.finished());
     }
 
