@@ -129,12 +129,7 @@ BrowserTwoWindows& WindowRegistry::browserTwoWindows()
         links.mainCall = [this](GeoCitiesCall code) {
             m_main->navigator().frmGeoCitiesCalls(code);
         };
-        links.clearTopmost = [this] {
-            if (m_ctx.state.gblnMainOnTop)
-                m_main->navigator().frmGeoCitiesCalls(GeoCitiesCall::OnTop);
-            if (m_ctx.state.gblnWBOneOnTop)
-                toggleBrowserOneOnTop();
-        };
+        links.clearTopmost = [this] { m_main->navigator().releaseOnTop(); };
         links.getFileList = [this] { netFetchWindows().GetFileListMenu(3); };
         links.splashPicture = [] { return NeighborhoodPictures::picture(false, 1); };
         m_wordListHost = std::make_unique<WordListHostRelay>();
@@ -183,12 +178,7 @@ CacheWindows& WindowRegistry::cacheWindows()
         links.enableMenus = [this](bool on) {
             m_main->navigator().controls().mnuCache.setEnabled(on);
         };
-        links.releaseOnTop = [this] {
-            if (m_ctx.state.gblnMainOnTop)
-                m_main->navigator().frmGeoCitiesCalls(GeoCitiesCall::OnTop);
-            if (m_ctx.state.gblnWBOneOnTop)
-                toggleBrowserOneOnTop();
-        };
+        links.releaseOnTop = [this] { m_main->navigator().releaseOnTop(); };
         links.actions = [](AppContext& ctx, CacheState& state, CacheActionHost& host) {
             return std::unique_ptr<CacheActions>(new CacheActionRunner(ctx, state, host));
         };

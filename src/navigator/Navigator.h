@@ -96,10 +96,12 @@ public:
 
     // Stops the load in Browser One, if it is open.
     void browserStop();
+    // The preamble of the menus that show a window: the main window and
+    // Browser One leave always-on-top, so that the new window is seen.
+    void releaseOnTop();
 
 private:
     void connectEvents();
-    void releaseOnTop(); // the preamble of the menus that show a window
     bool readFlag(const char* section, const char* key, const char* defaultValue) const;
     void raise(bool& flag, const char* section, const char* key, const char* defaultValue);
 

@@ -2,6 +2,7 @@
 
 #include "core/AppContext.h"
 #include "core/ControlBinder.h"
+#include "core/KeyAscii.h"
 #include "core/PlaceWindow.h"
 #include "core/SettingsKeys.h"
 #include "core/WindowPlace.h"
@@ -28,13 +29,6 @@ QLabel* label(const QString& name, const QString& text, QWidget* parent)
     return l;
 }
 
-// The character code a key types, 8 for Backspace, -1 for none.
-int keyCode(const QKeyEvent* key)
-{
-    if (key->key() == Qt::Key_Backspace)
-        return 8;
-    return key->text().isEmpty() ? -1 : key->text().at(0).unicode();
-}
 } // namespace
 
 frmNetPics::frmNetPics(AppContext& ctx, MainWindowCalls& main,
@@ -150,7 +144,7 @@ bool frmNetPics::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     if (event->type() == QEvent::KeyPress) {
-        const int code = keyCode(static_cast<QKeyEvent*>(event));
+        const int code = KeyAscii(static_cast<QKeyEvent*>(event));
         if (code >= 0 && (watched == m_snum || watched == m_enum))
             return !NetPic::numberKeyAccepted(code);
         if (code >= 0 && watched == m_pref)

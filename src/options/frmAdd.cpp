@@ -1,7 +1,7 @@
 #include "frmAdd.h"
 
-#include "KeyCodes.h"
 #include "core/ControlBinder.h"
+#include "core/KeyAscii.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #include "frmOpt.h"
 
-#include "KeyCodes.h"
 #include "core/ControlBinder.h"
+#include "core/KeyAscii.h"
 
 #include <QCheckBox>
 #include <QComboBox>
